@@ -1,0 +1,25 @@
+#include "corvane.h"
+
+#include <atomic>
+
+namespace {
+std::atomic<bool> confidentialDisplay = false;
+} // namespace
+
+Corvane *Corvane::getInstance()
+{
+    static Corvane *instance = new Corvane;
+    return instance;
+}
+
+bool Corvane::confidentialInformationDisplayEnabled()
+{
+    return confidentialDisplay.load(std::memory_order_relaxed);
+}
+
+void Corvane::setConfidentialInformationDisplayEnabled(bool enabled)
+{
+    if (confidentialDisplay.exchange(enabled) == enabled)
+        return;
+    Q_EMIT getInstance()->confidentialInformationDisplayChanged(enabled);
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "corvaneframework_export.h"
+#include "fieldinfo.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class FormatInfo;
+class MessageInfo;
+
+namespace corvane {
+
+class Enumeration;
+
+/** What is known of a field. Filled by a format's loader, changed by overlays, then only read. */
+struct CORVANEFRAMEWORK_EXPORT FieldInfoData
+{
+    QString name; ///< As the definition has it; what path expressions use.
+    QString displayName; ///< What people see instead; empty for the name itself.
+    QString unit;
+    QString description;
+    QList<const MessageInfo *> messageInfos;
+    QList<const FieldInfo *> subFieldInfos;
+    const FieldInfo *parent = nullptr; ///< Not owned.
+    std::shared_ptr<const Enumeration> symbols; ///< May be null.
+    FieldInfo::Role role = FieldInfo::Ordinary;
+    bool repeated = false;
+    bool optional = false;
+    bool isString = false;
+    bool isVirtual = false;
+    bool confidential = false;
+    bool instance = false; ///< Tells several devices that send the same type apart.
+};
+
+/** What is known of a message type. Owns its fields. */
+struct CORVANEFRAMEWORK_EXPORT MessageInfoData
+{
+    /** Takes \a field over and lists it; a sub-field goes behind its parent and siblings. */
+    FieldInfo *addField(std::unique_ptr<FieldInfo> field, const MessageInfo *owner);
+    /** The field of that name (a path of names for a sub-field, joined by dots), or null. */
+    const FieldInfo *findField(const QString &path) const;
+
+    QString name; ///< As the definition has it; what path expressions use.
+    QString displayName; ///< What people see instead; empty for the name itself.
+    QString shortDescription;
+    QString description;
+    const FormatInfo *format = nullptr; ///< Not owned.
+    QList<const FieldInfo *> fields; ///< All, in their defined order, sub-fields included.
+    std::vector<std::unique_ptr<FieldInfo>> ownedFields;
+    const FieldInfo *timeField = nullptr; ///< The field that carries the message's time, if any.
+    qint64 timeFieldUnitUs = 1; ///< Microseconds per unit of the time field.
+    quint32 number = 0; ///< The message id of the format.
+    quint32 slot = 0; ///< Dense and never reused, so that tables can be indexed by it.
+    bool main = true;
+};
+
+/** What is known of a format. Owns its message types. */
+struct CORVANEFRAMEWORK_EXPORT FormatInfoData
+{
+    MessageInfo *addMessage(std::unique_ptr<MessageInfo> message);
+    MessageInfo *findMessage(const QString &name) const;
+
+    QString name;
+    std::vector<std::unique_ptr<MessageInfo>> messages;
+    QHash<QString, MessageInfo *> messagesByName;
+};
+
+} // namespace corvane

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "corvaneframework_export.h"
+
+#include <QHash>
+#include <QString>
+#include <QtGlobal>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace corvane {
+
+/** What is known of one sender, by the sequence numbers of its good frames. */
+struct CORVANEFRAMEWORK_EXPORT SenderStatistics
+{
+    /** Counts a good frame; returns how many are missing before it. */
+    quint32 receive(quint8 sequence);
+    /** The same for a frame that cannot be checked, which is not counted as received. */
+    quint32 pass(quint8 sequence);
+
+    QString id; ///< As the format names its senders, such as "1/100".
+    quint64 frames = 0;
+    quint64 sequenceGaps = 0; ///< Places at which numbers are missing.
+    quint64 lost = 0; ///< Numbers missing at these places, modulo 256 at each.
+    quint64 crcErrors = 0; ///< Damaged frames that claim to come from this sender.
+    std::optional<quint8> lastSequence;
+};
+
+/** The senders of a stream, in the order of their first frame. */
+class CORVANEFRAMEWORK_EXPORT SenderTable
+{
+public:
+    using Namer = QString (*)(quint32 senderId);
+
+    /** \a namer gives the id that people read. */
+    explicit SenderTable(Namer namer);
+
+    /** The sender of that id; made at first sight. */
+    SenderStatistics &get(quint32 senderId);
+    /** The sender of that id, or null where it has not been seen. */
+    SenderStatistics *find(quint32 senderId) const;
+
+    QString nameOf(quint32 senderId) const { return namer(senderId); }
+
+    const std::vector<std::unique_ptr<SenderStatistics>> &getAll() const { return all; }
+
+private:
+    Namer namer;
+    std::vector<std::unique_ptr<SenderStatistics>> all;
+    QHash<quint32, SenderStatistics *> byId;
+    quint32 latestId = 0;
+    SenderStatistics *latest = nullptr; ///< Not owned; neighbouring frames often share a sender.
+};
+
+} // namespace corvane

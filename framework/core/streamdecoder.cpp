@@ -1,0 +1,7 @@
+#include "streamdecoder.h"
+
+namespace corvane {
+
+StreamDecoder::~StreamDecoder() = default;
+
+} // namespace corvane
