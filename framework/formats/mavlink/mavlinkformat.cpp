@@ -1,0 +1,107 @@
+#include "mavlinkformat.h"
+
+#include "catalogue.h"
+#include "descriptions.h"
+#include "enumeration.h"
+#include "mavlinkdefinitionreader.h"
+#include "messageinfo.h"
+
+#include <QCoreApplication>
+
+namespace corvane {
+
+namespace {
+
+std::unique_ptr<FormatInfoData> makeFormatData()
+{
+    auto data = std::make_unique<FormatInfoData>();
+    data->name = QStringLiteral("MAVLink");
+    return data;
+}
+
+} // namespace
+
+MavlinkFormat::MavlinkFormat()
+    : info(makeFormatData())
+    , types(1)
+    , lowTypes(0x10000, 0)
+{
+    Catalogue::getInstance()->addFormat(&info);
+}
+
+MavlinkFormat::~MavlinkFormat()
+{
+    Catalogue::getInstance()->removeFormat(&info);
+}
+
+MavlinkFormat::LoadResult MavlinkFormat::load(const QString &file)
+{
+    MavlinkDefinitionReader reader;
+    if (!reader.read(file))
+        return {reader.getErrors(), reader.getWarnings()};
+    const auto conflicts = findConflicts(reader.getDefinitions());
+    if (!conflicts.isEmpty())
+        return {conflicts, reader.getWarnings()};
+
+    addEnumerations(reader.getDefinitions());
+    for (const MavlinkMessageDefinition &message : reader.getDefinitions().messages)
+        if (findType(message.id) == nullptr)
+            addMessage(message);
+    Catalogue::getInstance()->announceChange();
+    return {{}, reader.getWarnings()};
+}
+
+QList<LoadError> MavlinkFormat::findConflicts(const MavlinkDefinitions &definitions) const
+{
+    QList<LoadError> conflicts;
+    for (const MavlinkMessageDefinition &message : definitions.messages) {
+        const MavlinkMessageType *sameId = findType(message.id);
+        const MessageInfo *sameName = info.getData()->findMessage(message.name);
+        if (sameId == nullptr && sameName == nullptr)
+            continue;
+        // The checksum's extra byte stands for the name and the base fields.
+        if (sameId != nullptr && sameId->info == sameName
+            && sameId->checksumExtra == message.getChecksumExtra()
+            && sameId->fullSize == message.getFullSize())
+            continue;
+        const MessageInfo *other = sameId != nullptr ? sameId->info : sameName;
+        conflicts.append({message.place.file, message.place.line, message.place.column,
+                          QCoreApplication::translate(
+                              "corvane::MavlinkFormat",
+                              "The message %1 with id %2 contradicts %3 with id %4, which "
+                              "is loaded already.")
+                              .arg(message.name)
+                              .arg(message.id)
+                              .arg(other->getData()->name)
+                              .arg(other->getData()->number)});
+    }
+    return conflicts;
+}
+
+void MavlinkFormat::addEnumerations(const MavlinkDefinitions &definitions)
+{
+    for (const MavlinkEnumerationDefinition &definition : definitions.enumerations) {
+        auto &enumeration = enumerations[definition.name];
+        if (enumeration == nullptr)
+            enumeration = std::make_shared<Enumeration>(definition.name);
+        if (definition.isBitMask)
+            enumeration->setBitMask(true);
+        for (const MavlinkEnumerationEntry &entry : definition.entries)
+            enumeration->add({entry.value, entry.name, entry.description});
+    }
+}
+
+void MavlinkFormat::addMessage(const MavlinkMessageDefinition &definition)
+{
+    const MessageInfo *added
+        = info.getData()->addMessage(makeMavlinkMessageInfo(definition, &info, enumerations));
+    const auto index = static_cast<quint32>(types.size());
+    types.push_back(
+        {added, definition.getChecksumExtra(), static_cast<quint8>(definition.getFullSize())});
+    if (definition.id < lowTypes.size())
+        lowTypes[definition.id] = index;
+    else
+        highTypes.insert(definition.id, index);
+}
+
+} // namespace corvane
