@@ -1,0 +1,459 @@
+#include "linedecoder.h"
+#include "memorysource.h"
+#include "processsource.h"
+#include "replayclock.h"
+#include "streampump.h"
+#include "testcase.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QSignalSpy>
+
+#include <chrono>
+#include <ctime>
+
+using namespace corvane;
+using namespace std::chrono_literals;
+
+namespace {
+
+/** \a count lines of the text \a line. */
+QByteArray lines(int count, const QByteArray &line = "line")
+{
+    return (line + '\n').repeated(count);
+}
+
+/** Lines with the recorded times 0, \a intervalUs, ... */
+QByteArray timedLines(int count, qint64 intervalUs)
+{
+    QByteArray result;
+    for (int i = 0; i < count; ++i)
+        result += QByteArray::number(i * intervalUs) + " x\n";
+    return result;
+}
+
+/** Keeps the processor busy, as decoding and showing would. */
+void work(std::chrono::microseconds duration)
+{
+    const auto end = std::chrono::steady_clock::now() + duration;
+    while (std::chrono::steady_clock::now() < end) {
+    }
+}
+
+/** Counts the rounds of a timer that is always due, and the frames that came between two. */
+class RoundWatch : public QObject
+{
+public:
+    explicit RoundWatch(const test::LineDecoder &decoder)
+    {
+        connect(&timer, &QTimer::timeout, this, [this, &decoder] {
+            mostFrames = std::max(mostFrames, decoder.frameCount - framesBefore);
+            framesBefore = decoder.frameCount;
+            ++rounds;
+        });
+        timer.start(0);
+    }
+
+    qint64 mostFrames = 0;
+    int rounds = 0;
+
+private:
+    QTimer timer;
+    qint64 framesBefore = 0;
+};
+
+double getProcessorMs()
+{
+    return double(std::clock()) * 1000.0 / CLOCKS_PER_SEC;
+}
+
+/** A pump with everything that it needs. */
+struct Fixture
+{
+    explicit Fixture(ReplayClock *clock = nullptr)
+        : pump(source, decoder, clock)
+        , finished(&pump, &StreamPump::finished)
+        , failed(&pump, &StreamPump::failed)
+    {
+    }
+
+    test::MemorySource source;
+    test::LineDecoder decoder;
+    StreamPump pump;
+    QSignalSpy finished;
+    QSignalSpy failed;
+};
+
+} // namespace
+
+class TestStreamPump : public corvane::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void bytes_becomeFrames();
+    void end_comesAfterTheLastFrame();
+    void failure_comesAfterTheLastFrame();
+    void failure_ofOpening();
+    void arrival_isKnownOfLiveSourcesOnly();
+    void slices_letOthersWork();
+    void slice_canBeSet();
+    void reading_waitsForDecoding();
+    void idle_costsNothing();
+    void pause_stopsReading();
+    void pause_withinASlice();
+    void pause_ofAProgram_holdsItBack();
+    void stop_withinASlice();
+    void stop_byAFollowerOfTheSource();
+    void nestedEventLoop_doesNotReenter();
+    void clock_delaysFrames();
+    void clock_asFastAsPossible();
+    void clock_changedWhileWaiting();
+    void clock_pausedWithThePump();
+    void clock_pausedByItself_costsNothing();
+    void start_again();
+};
+
+void TestStreamPump::bytes_becomeFrames()
+{
+    Fixture f;
+    f.pump.start();
+    f.source.add("one\ntw");
+    QTRY_COMPARE(f.decoder.frames, QStringList({"one"}));
+    f.source.add("o\n");
+    QTRY_COMPARE(f.decoder.frames, QStringList({"one", "two"}));
+    QCOMPARE(f.pump.getBytesRead(), quint64(8));
+    QCOMPARE(f.finished.size(), 0);
+}
+
+void TestStreamPump::end_comesAfterTheLastFrame()
+{
+    Fixture f;
+    f.pump.setSlice(0ms);
+    QStringList framesAtEnd;
+    connect(&f.pump, &StreamPump::finished, this, [&] { framesAtEnd = f.decoder.frames; });
+    f.source.add("one\ntwo\nrest");
+    f.source.end();
+    f.pump.start();
+    QCOMPARE(f.decoder.frames, QStringList());
+    QTRY_COMPARE(f.finished.size(), 1);
+    QCOMPARE(framesAtEnd, QStringList({"one", "two", "(cut) rest"}));
+    QTest::qWait(10);
+    QCOMPARE(f.finished.size(), 1);
+    QCOMPARE(f.failed.size(), 0);
+}
+
+void TestStreamPump::failure_comesAfterTheLastFrame()
+{
+    Fixture f;
+    QStringList framesAtEnd;
+    connect(&f.pump, &StreamPump::failed, this, [&] { framesAtEnd = f.decoder.frames; });
+    f.source.add("one\nrest");
+    f.source.breakDown(QStringLiteral("it broke"));
+    f.pump.start();
+    QTRY_COMPARE(f.failed.size(), 1);
+    QCOMPARE(f.failed.first().first().toString(), "it broke");
+    QCOMPARE(framesAtEnd, QStringList({"one", "(cut) rest"}));
+    QCOMPARE(f.finished.size(), 0);
+}
+
+void TestStreamPump::failure_ofOpening()
+{
+    Fixture f;
+    f.source.refuseToOpen(QStringLiteral("not there"));
+    f.pump.start();
+    QTRY_COMPARE(f.failed.size(), 1);
+    QCOMPARE(f.failed.first().first().toString(), "not there");
+    QTest::qWait(10);
+    QCOMPARE(f.failed.size(), 1);
+    QCOMPARE(f.finished.size(), 0);
+}
+
+void TestStreamPump::arrival_isKnownOfLiveSourcesOnly()
+{
+    Fixture live;
+    const qint64 beforeUs = QDateTime::currentMSecsSinceEpoch() * 1000;
+    live.source.add("x\n");
+    live.pump.start();
+    QTRY_COMPARE(live.decoder.arrivals.size(), 1);
+    const std::optional<qint64> arrivalUs = live.decoder.arrivals.first();
+    QVERIFY(arrivalUs);
+    QVERIFY(*arrivalUs >= beforeUs && *arrivalUs <= beforeUs + 10'000'000);
+
+    Fixture file;
+    file.source.setLive(false);
+    file.source.add("x\n");
+    file.pump.start();
+    QTRY_COMPARE(file.decoder.arrivals.size(), 1);
+    QVERIFY(!file.decoder.arrivals.first());
+}
+
+void TestStreamPump::slices_letOthersWork()
+{
+    Fixture f;
+    f.decoder.onFrame = [](const QString &) { work(500us); };
+    f.source.add(lines(800));
+    f.source.end();
+    const RoundWatch watch(f.decoder);
+    f.pump.start();
+    QTRY_COMPARE(f.finished.size(), 1);
+    QCOMPARE(f.decoder.frameCount, 800);
+    // Frames of at least half a millisecond in slices of ten, whatever else the machine does.
+    QVERIFY2(watch.mostFrames <= 21, qPrintable(QString::number(watch.mostFrames)));
+    QVERIFY2(watch.rounds >= 38, qPrintable(QString::number(watch.rounds)));
+}
+
+void TestStreamPump::slice_canBeSet()
+{
+    Fixture f;
+    f.pump.setSlice(1ms);
+    f.decoder.onFrame = [](const QString &) { work(2ms); };
+    f.source.add(lines(20));
+    f.source.end();
+    f.pump.start();
+    int framesInRound = 0;
+    while (f.finished.isEmpty()) {
+        const qint64 before = f.decoder.frameCount;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        framesInRound = std::max(framesInRound, int(f.decoder.frameCount - before));
+    }
+    QCOMPARE(framesInRound, 1);
+}
+
+void TestStreamPump::reading_waitsForDecoding()
+{
+    Fixture f;
+    const QByteArray all = lines(100'000, "0123456789");
+    f.source.add(all);
+    qsizetype longestLead = 0;
+    f.decoder.onFrame = [&](const QString &) {
+        longestLead
+            = std::max<qsizetype>(longestLead, f.decoder.appendedBytes - f.decoder.frameCount * 11);
+    };
+    f.decoder.keepsFrames = false;
+    f.pump.start();
+    f.source.end();
+    QTRY_COMPARE(f.finished.size(), 1);
+    QCOMPARE(f.decoder.frameCount, 100'000);
+    QCOMPARE(f.pump.getBytesRead(), quint64(all.size()));
+    QVERIFY2(longestLead <= StreamPump::chunkBytes, qPrintable(QString::number(longestLead)));
+}
+
+void TestStreamPump::idle_costsNothing()
+{
+    Fixture f;
+    f.pump.start();
+    f.source.add("x\n");
+    QTRY_COMPARE(f.decoder.frames.size(), 1);
+    QTest::qWait(20);
+    const int readsBefore = f.source.readCount;
+    const double processorBefore = getProcessorMs();
+    QTest::qWait(300);
+    QCOMPARE(f.source.readCount, readsBefore);
+    QVERIFY2(getProcessorMs() - processorBefore < 100.0,
+             qPrintable(QString::number(getProcessorMs() - processorBefore)));
+}
+
+void TestStreamPump::pause_stopsReading()
+{
+    Fixture f;
+    f.pump.start();
+    f.pump.setPaused(true);
+    QVERIFY(f.pump.isPaused());
+    f.source.add("one\n");
+    QTest::qWait(20);
+    QCOMPARE(f.source.getWaitingBytes(), 4);
+    QCOMPARE(f.pump.getBytesRead(), quint64(0));
+    f.pump.setPaused(false);
+    QTRY_COMPARE(f.decoder.frames, QStringList({"one"}));
+}
+
+void TestStreamPump::pause_withinASlice()
+{
+    Fixture f;
+    f.decoder.onFrame = [&](const QString &frame) {
+        if (frame == "stop")
+            f.pump.setPaused(true);
+    };
+    f.source.add("one\nstop\ntwo\n");
+    f.source.end();
+    f.pump.start();
+    QTest::qWait(20);
+    QCOMPARE(f.decoder.frames, QStringList({"one", "stop"}));
+    QCOMPARE(f.finished.size(), 0);
+    f.pump.setPaused(false);
+    QTRY_COMPARE(f.finished.size(), 1);
+    QCOMPARE(f.decoder.frames, QStringList({"one", "stop", "two"}));
+}
+
+void TestStreamPump::pause_ofAProgram_holdsItBack()
+{
+    ProcessSource source(QStringLiteral("yes"));
+    test::LineDecoder decoder;
+    decoder.keepsFrames = false;
+    StreamPump pump(source, decoder);
+    pump.start();
+    QTRY_VERIFY(pump.getBytesRead() > 1'000'000);
+    pump.setPaused(true);
+    const quint64 bytes = pump.getBytesRead();
+    QTest::qWait(100);
+    QCOMPARE(pump.getBytesRead(), bytes);
+    pump.setPaused(false);
+    QTRY_VERIFY(pump.getBytesRead() > bytes);
+    pump.stop();
+    const quint64 atEnd = pump.getBytesRead();
+    QTest::qWait(20);
+    QCOMPARE(pump.getBytesRead(), atEnd);
+}
+
+void TestStreamPump::stop_withinASlice()
+{
+    Fixture f;
+    f.decoder.onFrame = [&](const QString &) { f.pump.stop(); };
+    f.source.add("one\ntwo\n");
+    f.source.end();
+    f.pump.start();
+    QTest::qWait(20);
+    QCOMPARE(f.decoder.frames, QStringList({"one"}));
+    QVERIFY(f.source.isAtEnd());
+    QCOMPARE(f.finished.size() + f.failed.size(), 0);
+}
+
+void TestStreamPump::stop_byAFollowerOfTheSource()
+{
+    Fixture f;
+    connect(&f.source, &ByteSource::finished, &f.pump, &StreamPump::stop);
+    f.source.add("one\nrest");
+    f.source.end();
+    f.pump.start();
+    QTest::qWait(20);
+    QCOMPARE(f.decoder.frames, QStringList({"one"}));
+    QVERIFY(!f.decoder.finished);
+    QCOMPARE(f.finished.size(), 0);
+}
+
+void TestStreamPump::nestedEventLoop_doesNotReenter()
+{
+    Fixture f;
+    f.pump.setSlice(0ms);
+    int depth = 0;
+    int deepest = 0;
+    f.decoder.onFrame = [&](const QString &) {
+        deepest = std::max(deepest, ++depth);
+        QTest::qWait(5);
+        f.source.add("");
+        --depth;
+    };
+    f.source.add("one\ntwo\nthree\n");
+    f.source.end();
+    f.pump.start();
+    QTRY_COMPARE(f.finished.size(), 1);
+    QCOMPARE(deepest, 1);
+    QCOMPARE(f.decoder.frames, QStringList({"one", "two", "three"}));
+}
+
+void TestStreamPump::clock_delaysFrames()
+{
+    ReplayClock clock;
+    Fixture f(&clock);
+    QElapsedTimer timer;
+    QList<qint64> timesMs;
+    f.decoder.onFrame = [&](const QString &) { timesMs.append(timer.elapsed()); };
+    f.source.add(timedLines(6, 40'000));
+    f.source.end();
+    timer.start();
+    f.pump.start();
+    QTRY_COMPARE(f.finished.size(), 1);
+    QCOMPARE(timesMs.size(), 6);
+    for (int i = 1; i < 6; ++i) {
+        const qint64 sinceFirstMs = timesMs[i] - timesMs[0];
+        QVERIFY2(sinceFirstMs >= i * 40 - 2, qPrintable(QString::number(sinceFirstMs)));
+        QVERIFY2(sinceFirstMs < i * 40 + 2000, qPrintable(QString::number(sinceFirstMs)));
+    }
+}
+
+void TestStreamPump::clock_asFastAsPossible()
+{
+    ReplayClock clock;
+    clock.setAsFastAsPossible();
+    Fixture f(&clock);
+    f.source.add(timedLines(1000, 1'000'000));
+    f.source.end();
+    f.pump.start();
+    QTRY_COMPARE_WITH_TIMEOUT(f.finished.size(), 1, 2000);
+    QCOMPARE(f.decoder.frameCount, 1000);
+}
+
+void TestStreamPump::clock_changedWhileWaiting()
+{
+    ReplayClock clock;
+    Fixture f(&clock);
+    f.source.add(timedLines(2, 50'000'000));
+    f.source.end();
+    f.pump.start();
+    QTest::qWait(20);
+    QCOMPARE(f.decoder.frameCount, 1);
+    clock.setAsFastAsPossible();
+    QTRY_COMPARE_WITH_TIMEOUT(f.finished.size(), 1, 2000);
+}
+
+void TestStreamPump::clock_pausedWithThePump()
+{
+    qint64 nowUs = 0;
+    ReplayClock clock([&nowUs] { return nowUs; });
+    Fixture f(&clock);
+    f.source.add(timedLines(3, 1'000'000));
+    f.pump.start();
+    QTRY_COMPARE(f.decoder.frameCount, 1);
+    f.pump.setPaused(true);
+    QVERIFY(clock.isPaused());
+    nowUs = 10'000'000;
+    QTest::qWait(20);
+    f.pump.setPaused(false);
+    QTest::qWait(80);
+    QCOMPARE(f.decoder.frameCount, 1);
+    nowUs += 1'000'000;
+    QTRY_COMPARE(f.decoder.frameCount, 2);
+}
+
+void TestStreamPump::clock_pausedByItself_costsNothing()
+{
+    qint64 nowUs = 0;
+    int asked = 0;
+    ReplayClock clock([&] {
+        ++asked;
+        return nowUs;
+    });
+    Fixture f(&clock);
+    f.source.add("0 x\n1 x\n");
+    f.pump.start();
+    QTRY_COMPARE(f.decoder.frameCount, 1);
+    clock.pause();
+    nowUs = 100;
+    asked = 0;
+    const double processorBefore = getProcessorMs();
+    QTest::qWait(200);
+    QVERIFY(getProcessorMs() - processorBefore < 100.0);
+    QCOMPARE(f.decoder.frameCount, 1);
+    clock.resume();
+    nowUs += 100;
+    QTRY_COMPARE(f.decoder.frameCount, 2);
+}
+
+void TestStreamPump::start_again()
+{
+    Fixture f;
+    f.source.add("one\n");
+    f.source.end();
+    f.pump.start();
+    QTRY_COMPARE(f.finished.size(), 1);
+    f.source.add("two\n");
+    f.pump.start();
+    QTRY_COMPARE(f.finished.size(), 2);
+    QCOMPARE(f.decoder.frames, QStringList({"one", "two"}));
+    QCOMPARE(f.pump.getBytesRead(), quint64(4));
+}
+
+CORVANE_TEST_MAIN(TestStreamPump)
+
+#include "tst_streampump.moc"
