@@ -1,0 +1,156 @@
+#include "mainwindow.h"
+#include "options.h"
+#include "report.h"
+#include "session.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+using corvane::Options;
+using corvane::Session;
+
+void print(FILE *stream, const QByteArray &text)
+{
+    std::fwrite(text.constData(), 1, static_cast<size_t>(text.size()), stream);
+}
+
+int complain(const QString &text)
+{
+    print(stderr, QStringLiteral("corvane-inspector: %1\n").arg(text).toLocal8Bit());
+    return 1;
+}
+
+QStringList argumentsOf(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+std::chrono::milliseconds millisecondsOf(double seconds)
+{
+    return std::chrono::milliseconds(qRound64(seconds * 1000.0));
+}
+
+/** Reads the source to its end, or for the time asked for, and prints what arrived. */
+int runReport(const Options &options)
+{
+    Session session;
+    const QStringList errors = session.load(options);
+    if (!errors.isEmpty())
+        return complain(errors.join(QLatin1Char('\n')));
+
+    QString failure;
+    QObject::connect(&session, &Session::finished, QCoreApplication::instance(),
+                     &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(
+        &session, &Session::failed, QCoreApplication::instance(),
+        [&failure](const QString &message) {
+            failure = message;
+            QCoreApplication::quit();
+        },
+        Qt::QueuedConnection);
+    if (options.durationSeconds)
+        QTimer::singleShot(millisecondsOf(*options.durationSeconds), QCoreApplication::instance(),
+                           &QCoreApplication::quit);
+    session.start(options);
+    QCoreApplication::exec();
+    session.stop();
+
+    const auto &totals = session.getReception().getTotals();
+    if (!failure.isEmpty() && totals.bytes == 0)
+        return complain(failure);
+    const auto makeReport = options.report == Options::Report::Json ? corvane::makeJsonReport
+                                                                    : corvane::makeTextReport;
+    print(stdout, makeReport(options.source->text, session.getReception()));
+    if (!failure.isEmpty())
+        return complain(failure);
+    if (totals.bytes > 0 && totals.frames == 0)
+        complain(QCoreApplication::translate(
+            "main",
+            "no good frame was found; are these the right definitions and the right --framing?"));
+    return 0;
+}
+
+void writeScreenshotLater(corvane::MainWindow &window, const Options &options)
+{
+    QTimer::singleShot(
+        millisecondsOf(options.screenshotAfterSeconds), &window, [&window, &options] {
+            const bool written = window.grab().save(options.screenshotFile, "PNG");
+            if (!written)
+                complain(QCoreApplication::translate("main", "cannot write the screenshot \"%1\"")
+                             .arg(options.screenshotFile));
+            QCoreApplication::exit(written ? 0 : 1);
+        });
+}
+
+int runWindow(const Options &options)
+{
+    Session session;
+    const QStringList errors = session.load(options);
+    if (!errors.isEmpty())
+        return complain(errors.join(QLatin1Char('\n')));
+
+    corvane::MainWindow window(session);
+    window.setWindowTitle(QCoreApplication::translate("main", "Corvane Inspector"));
+    QObject::connect(&session, &Session::finished, &window, [&] {
+        window.showState(
+            QCoreApplication::translate("main", "End of %1").arg(session.getSourceName()));
+    });
+    QObject::connect(&session, &Session::failed, &window, &corvane::MainWindow::showState);
+    session.start(options);
+    if (options.source) {
+        window.setWindowTitle(session.getSourceName() + QStringLiteral(" - ")
+                              + window.windowTitle());
+        window.showState(session.getSourceName());
+    }
+    window.show();
+    if (!options.screenshotFile.isEmpty())
+        writeScreenshotLater(window, options);
+    return QApplication::exec();
+}
+
+/** A screenshot needs no display; a window for people does. */
+void chooseOffscreenPlatform(const Options &options)
+{
+    const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY")
+                            || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+                            || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    if (!options.screenshotFile.isEmpty() && !hasDisplay)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // The arguments decide which kind of application is made, so they are read before.
+    const Options options = Options::parse(argumentsOf(argc, argv));
+    QCoreApplication::setApplicationName(QStringLiteral("corvane-inspector"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));
+    switch (options.wish) {
+    case Options::Wish::Complain:
+        return complain(options.error);
+    case Options::Wish::ShowHelp:
+        print(stdout, Options::getHelpText().toLocal8Bit());
+        return 0;
+    case Options::Wish::ShowVersion:
+        print(stdout, "corvane-inspector " CORVANE_VERSION "\n");
+        return 0;
+    case Options::Wish::Run:
+        break;
+    }
+    if (options.report != Options::Report::None) {
+        const QCoreApplication application(argc, argv);
+        return runReport(options);
+    }
+    chooseOffscreenPlatform(options);
+    const QApplication application(argc, argv);
+    return runWindow(options);
+}

@@ -1,0 +1,210 @@
+#include "options.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include <array>
+#include <cmath>
+
+namespace corvane {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("corvane::Options", text);
+}
+
+struct OptionText
+{
+    const char *name;
+    const char *valueName; ///< Null for an option without a value.
+    const char *description;
+};
+
+constexpr std::array optionTexts{
+    OptionText{"definitions", "FILE",
+               "Definitions of the messages: a MAVLink dialect (XML). May be repeated."},
+    OptionText{"overlay", "FILE", "What the definitions cannot say (JSON). May be repeated."},
+    OptionText{"framing", "auto|raw|tlog",
+               "How frames stand in the stream; tlog: a time before each."},
+    OptionText{"speed", "N|max",
+               "Play recordings N times as fast as recorded, or as fast as possible."},
+    OptionText{"report", "text|json",
+               "Read the source to its end without a window and print what arrived."},
+    OptionText{"duration", "SECONDS", "With --report: stop after this time."},
+    OptionText{"screenshot", "FILE", "Write the window as a PNG file and exit."},
+    OptionText{"after", "SECONDS", "With --screenshot: when to write it; 3 by default."},
+    OptionText{"help", nullptr, "Print this help."},
+    OptionText{"version", nullptr, "Print the version."},
+};
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(tr("Shows the decoded messages of a binary stream, live."));
+    for (const OptionText &option : optionTexts) {
+        QCommandLineOption described(QLatin1String(option.name), tr(option.description));
+        if (option.valueName != nullptr)
+            described.setValueName(QLatin1String(option.valueName));
+        parser.addOption(described);
+    }
+    parser.addPositionalArgument(
+        QStringLiteral("SOURCE"),
+        tr("A path, - (standard input), tcp://HOST:PORT, tcp-listen://[ADDRESS]:PORT, "
+           "udp://[ADDRESS]:PORT, serial:DEVICE[?baud=N] or exec:COMMAND."),
+        QStringLiteral("[SOURCE]"));
+}
+
+/** Reads the values of a parsed command line; the first thing wrong is kept. */
+class OptionReader
+{
+public:
+    OptionReader(const QCommandLineParser &parser, Options &options)
+        : parser(parser)
+        , options(options)
+    {
+    }
+
+    void read()
+    {
+        options.definitions = parser.values(QStringLiteral("definitions"));
+        options.overlays = parser.values(QStringLiteral("overlay"));
+        options.screenshotFile = parser.value(QStringLiteral("screenshot"));
+        readFraming();
+        readReport();
+        readSpeed();
+        options.durationSeconds = readSeconds("duration");
+        options.screenshotAfterSeconds = readSeconds("after").value_or(3.0);
+        readSource();
+        checkTogether();
+    }
+
+private:
+    void complain(const QString &text)
+    {
+        if (options.wish == Options::Wish::Complain)
+            return;
+        options.wish = Options::Wish::Complain;
+        options.error = text;
+    }
+
+    void complainOfValue(const char *name, const QString &expected)
+    {
+        complain(tr("--%1 takes %2, not \"%3\".")
+                     .arg(QLatin1String(name), expected, parser.value(QLatin1String(name))));
+    }
+
+    void readFraming()
+    {
+        const QString text = parser.value(QStringLiteral("framing"));
+        if (text == QLatin1String("raw"))
+            options.framing = MavlinkFraming::Raw;
+        else if (text == QLatin1String("tlog"))
+            options.framing = MavlinkFraming::TimeStamped;
+        else if (!text.isEmpty() && text != QLatin1String("auto"))
+            complainOfValue("framing", tr("auto, raw or tlog"));
+    }
+
+    void readReport()
+    {
+        if (!parser.isSet(QStringLiteral("report")))
+            return;
+        const QString text = parser.value(QStringLiteral("report"));
+        if (text == QLatin1String("text"))
+            options.report = Options::Report::Text;
+        else if (text == QLatin1String("json"))
+            options.report = Options::Report::Json;
+        else
+            complainOfValue("report", tr("text or json"));
+    }
+
+    void readSpeed()
+    {
+        if (!parser.isSet(QStringLiteral("speed")))
+            return;
+        const QString text = parser.value(QStringLiteral("speed"));
+        bool ok = false;
+        const double speed = text.toDouble(&ok);
+        if (text == QLatin1String("max"))
+            options.speed.reset();
+        else if (ok && std::isfinite(speed) && speed > 0)
+            options.speed = speed;
+        else
+            complainOfValue("speed", tr("a number above 0, or max"));
+    }
+
+    std::optional<double> readSeconds(const char *name)
+    {
+        if (!parser.isSet(QLatin1String(name)))
+            return std::nullopt;
+        constexpr double longest = 2'000'000;
+        bool ok = false;
+        const double seconds = parser.value(QLatin1String(name)).toDouble(&ok);
+        if (!ok || !(seconds >= 0) || seconds > longest)
+            complainOfValue(name, tr("a number of seconds from 0 to 2000000"));
+        return seconds;
+    }
+
+    void readSource()
+    {
+        const QStringList sources = parser.positionalArguments();
+        if (sources.size() > 1)
+            complain(
+                tr("Only one source can be shown: \"%1\" is one too many.").arg(sources.at(1)));
+        if (sources.isEmpty())
+            return;
+        const SourceAddressResult result = SourceAddress::parse(sources.constFirst());
+        if (!result.address)
+            complain(result.error);
+        options.source = result.address;
+    }
+
+    void checkTogether()
+    {
+        const bool reports = options.report != Options::Report::None;
+        const bool photographs = !options.screenshotFile.isEmpty();
+        if (reports && photographs)
+            complain(tr("--report opens no window, so --screenshot cannot go with it."));
+        if (reports && !options.source)
+            complain(tr("--report needs a SOURCE to read; see --help."));
+        if (options.source && options.definitions.isEmpty())
+            complain(tr("Messages cannot be read without their definitions: name a MAVLink dialect "
+                        "with --definitions FILE."));
+        if (options.durationSeconds && !reports)
+            complain(tr("--duration goes with --report."));
+        if (parser.isSet(QStringLiteral("after")) && !photographs)
+            complain(tr("--after goes with --screenshot."));
+    }
+
+    const QCommandLineParser &parser;
+    Options &options;
+};
+
+} // namespace
+
+Options Options::parse(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    describe(parser);
+    Options options;
+    if (!parser.parse(arguments)) {
+        options.wish = Wish::Complain;
+        options.error = parser.errorText();
+    } else if (parser.isSet(QStringLiteral("help"))) {
+        options.wish = Wish::ShowHelp;
+    } else if (parser.isSet(QStringLiteral("version"))) {
+        options.wish = Wish::ShowVersion;
+    } else {
+        OptionReader(parser, options).read();
+    }
+    return options;
+}
+
+QString Options::getHelpText()
+{
+    QCommandLineParser parser;
+    describe(parser);
+    return parser.helpText();
+}
+
+} // namespace corvane

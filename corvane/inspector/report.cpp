@@ -1,0 +1,169 @@
+#include "report.h"
+
+#include "formatinfo.h"
+#include "messagestatistics.h"
+#include "messagestatisticsdata.h"
+#include "reception.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextStream>
+
+namespace corvane {
+
+namespace {
+
+constexpr qsizetype maximumEvents = 1000;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("corvane::Report", text);
+}
+
+QJsonValue number(quint64 count)
+{
+    return QJsonValue(static_cast<qint64>(count));
+}
+
+QJsonValue optionalNumber(const std::optional<quint64> &count)
+{
+    return count ? number(*count) : QJsonValue();
+}
+
+quint64 countEvents(Reception &reception)
+{
+    quint64 count = 0;
+    for (const quint32 ofType : reception.getStatistics()->getData()->eventCounts)
+        count += ofType;
+    return count;
+}
+
+QJsonArray messagesOf(Reception &reception)
+{
+    const bool hasChecksum = reception.getTotals().crcErrors.has_value();
+    QJsonArray messages;
+    for (const MessageStatistics *type : reception.getStatistics()->getAllMessageStatistics()) {
+        const QJsonValue crcErrors
+            = hasChecksum ? number(type->getData()->crcErrors) : QJsonValue();
+        messages.append(QJsonObject{{QStringLiteral("format"), type->getFormatInfo()->getName()},
+                                    {QStringLiteral("name"), type->getMessageName()},
+                                    {QStringLiteral("count"), number(type->getCount())},
+                                    {QStringLiteral("crcErrors"), crcErrors}});
+    }
+    return messages;
+}
+
+QJsonArray sendersOf(const Reception &reception)
+{
+    QJsonArray senders;
+    for (const auto &sender : reception.getSenders().getAll())
+        senders.append(QJsonObject{{QStringLiteral("id"), sender->id},
+                                   {QStringLiteral("frames"), number(sender->frames)},
+                                   {QStringLiteral("sequenceGaps"), number(sender->sequenceGaps)},
+                                   {QStringLiteral("lost"), number(sender->lost)}});
+    return senders;
+}
+
+QString timeText(const QDateTime &time)
+{
+    return time.isValid() ? time.toString(Qt::ISODateWithMs) : QString();
+}
+
+QJsonArray eventsOf(Reception &reception)
+{
+    QJsonArray events;
+    const auto entries = reception.getEventLog()->getEntries().first(
+        qMin(maximumEvents, reception.getEventLog()->getEntries().size()));
+    for (const EventLog::Entry &entry : entries) {
+        const QJsonValue time
+            = entry.time.isValid() ? QJsonValue(timeText(entry.time)) : QJsonValue();
+        events.append(QJsonObject{{QStringLiteral("time"), time},
+                                  {QStringLiteral("text"), entry.event.getMessage()}});
+    }
+    return events;
+}
+
+void writeTotals(QTextStream &out, const Reception::Totals &totals)
+{
+    const QString crcErrors = totals.crcErrors ? QString::number(*totals.crcErrors)
+                                               : tr("not available: the format has no checksum");
+    out << tr("Bytes:           %1 (%2 belong to no frame)")
+               .arg(totals.bytes)
+               .arg(totals.skippedBytes)
+        << '\n'
+        << tr("Good frames:     %1").arg(totals.frames) << '\n'
+        << tr("Unknown frames:  %1").arg(totals.unknownFrames) << '\n'
+        << tr("CRC errors:      %1").arg(crcErrors) << '\n';
+}
+
+void writeMessages(QTextStream &out, Reception &reception)
+{
+    out << '\n' << tr("     Count   CRC errors  Message") << '\n';
+    for (const MessageStatistics *type : reception.getStatistics()->getAllMessageStatistics())
+        out << QStringLiteral("%1   %2  %3")
+                   .arg(type->getCount(), 10)
+                   .arg(type->getData()->crcErrors, 10)
+                   .arg(type->getMessageName())
+            << '\n';
+}
+
+void writeSenders(QTextStream &out, const Reception &reception)
+{
+    out << '\n' << tr("    Frames         Gaps        Lost  Sender") << '\n';
+    for (const auto &sender : reception.getSenders().getAll())
+        out << QStringLiteral("%1   %2  %3  %4")
+                   .arg(sender->frames, 10)
+                   .arg(sender->sequenceGaps, 10)
+                   .arg(sender->lost, 10)
+                   .arg(sender->id)
+            << '\n';
+}
+
+void writeEvents(QTextStream &out, Reception &reception)
+{
+    constexpr qsizetype shown = 20;
+    const auto entries = reception.getEventLog()->getEntries();
+    out << '\n' << tr("Events: %1").arg(countEvents(reception)) << '\n';
+    for (qsizetype i = 0; i < qMin(shown, entries.size()); ++i)
+        out << "  " << timeText(entries.at(i).time) << "  " << entries.at(i).event.getMessage()
+            << '\n';
+    if (entries.size() > shown)
+        out << tr("  ... and more; --report json lists them.") << '\n';
+}
+
+} // namespace
+
+QByteArray makeJsonReport(const QString &source, Reception &reception)
+{
+    const Reception::Totals &totals = reception.getTotals();
+    const QJsonArray events = eventsOf(reception);
+    const quint64 omitted = countEvents(reception) - static_cast<quint64>(events.size());
+    const QJsonObject report{{QStringLiteral("source"), source},
+                             {QStringLiteral("bytes"), number(totals.bytes)},
+                             {QStringLiteral("skippedBytes"), number(totals.skippedBytes)},
+                             {QStringLiteral("frames"), number(totals.frames)},
+                             {QStringLiteral("unknownFrames"), number(totals.unknownFrames)},
+                             {QStringLiteral("crcErrors"), optionalNumber(totals.crcErrors)},
+                             {QStringLiteral("messages"), messagesOf(reception)},
+                             {QStringLiteral("senders"), sendersOf(reception)},
+                             {QStringLiteral("events"), events},
+                             {QStringLiteral("eventsOmitted"), number(omitted)}};
+    return QJsonDocument(report).toJson();
+}
+
+QByteArray makeTextReport(const QString &source, Reception &reception)
+{
+    QByteArray text;
+    QTextStream out(&text);
+    out << tr("Source:          %1").arg(source) << '\n';
+    writeTotals(out, reception.getTotals());
+    writeMessages(out, reception);
+    writeSenders(out, reception);
+    writeEvents(out, reception);
+    out.flush();
+    return text;
+}
+
+} // namespace corvane

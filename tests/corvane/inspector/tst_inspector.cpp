@@ -1,0 +1,332 @@
+#include "testcase.h"
+
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+
+using namespace corvane::test;
+
+class tst_inspector : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void jsonReport_ofRecording_hasEveryKey();
+    void jsonReport_ofCaptures_data();
+    void jsonReport_ofCaptures();
+    void jsonReport_manyEvents_saysHowManyAreOmitted();
+    void textReport_listsMessagesSendersAndEvents();
+    void report_fromStandardInput();
+    void report_fromProgram();
+    void report_fromListenedSocket_endsWithDuration();
+    void report_confidentialValues_areNowhere();
+    void mistake_exitsWith1AndSaysWhere_data();
+    void mistake_exitsWith1AndSaysWhere();
+    void failingProgram_keepsTheReport();
+    void screenshot_showsTheWindow();
+    void screenshot_unwritable_exitsWith1();
+    void version_isPrinted();
+};
+
+namespace {
+
+struct Outcome
+{
+    int exitCode = -1;
+    QByteArray output;
+    QByteArray errors;
+
+    QJsonObject json() const { return QJsonDocument::fromJson(output).object(); }
+};
+
+QString example(const QString &name)
+{
+    return sourceFile(QStringLiteral("examples/recording/") + name);
+}
+
+Outcome run(const QStringList &arguments, const QByteArray &input = {})
+{
+    QProcess process;
+    process.start(QStringLiteral(CORVANE_INSPECTOR), arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(60'000) || process.exitStatus() != QProcess::NormalExit)
+        return {-1, {}, "crashed or hung: " + process.readAllStandardError()};
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+QStringList onExample(const QStringList &arguments)
+{
+    return QStringList{QStringLiteral("--definitions"), example(QStringLiteral("rover.xml"))}
+           + arguments;
+}
+
+Outcome reportOn(const QString &source, const QByteArray &input = {})
+{
+    return run(onExample({QStringLiteral("--report"), QStringLiteral("json"), source}), input);
+}
+
+QByteArray recordedBytes()
+{
+    QFile file(example(QStringLiteral("rover.tlog")));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/** Lines "id frames gaps lost", sorted. */
+QStringList sendersOf(const QJsonObject &report)
+{
+    QStringList lines;
+    for (const QJsonValue &sender : report.value(QStringLiteral("senders")).toArray())
+        lines += QStringLiteral("%1 %2 %3 %4")
+                     .arg(sender[QStringLiteral("id")].toString())
+                     .arg(sender[QStringLiteral("frames")].toInteger())
+                     .arg(sender[QStringLiteral("sequenceGaps")].toInteger())
+                     .arg(sender[QStringLiteral("lost")].toInteger());
+    lines.sort();
+    return lines;
+}
+
+/** Lines "name crcErrors" of the types with damage, sorted. */
+QStringList damageOf(const QJsonObject &report)
+{
+    QStringList lines;
+    for (const QJsonValue &message : report.value(QStringLiteral("messages")).toArray())
+        if (message[QStringLiteral("crcErrors")].toInteger() > 0)
+            lines += QStringLiteral("%1 %2")
+                         .arg(message[QStringLiteral("name")].toString())
+                         .arg(message[QStringLiteral("crcErrors")].toInteger());
+    lines.sort();
+    return lines;
+}
+
+int countSeenTypes(const QJsonObject &report)
+{
+    int types = 0;
+    for (const QJsonValue &message : report.value(QStringLiteral("messages")).toArray())
+        types += message[QStringLiteral("count")].toInteger() > 0 ? 1 : 0;
+    return types;
+}
+
+} // namespace
+
+void tst_inspector::jsonReport_ofRecording_hasEveryKey()
+{
+    const Outcome outcome = reportOn(example(QStringLiteral("rover.tlog")));
+    QCOMPARE(outcome.errors, QByteArray());
+    QCOMPARE(outcome.exitCode, 0);
+    const QJsonObject report = outcome.json();
+    QCOMPARE(report.keys(),
+             (QStringList{"bytes", "crcErrors", "events", "eventsOmitted", "frames", "messages",
+                          "senders", "skippedBytes", "source", "unknownFrames"}));
+    QCOMPARE(report.value("source").toString(), example(QStringLiteral("rover.tlog")));
+    QCOMPARE(report.value("bytes").toInteger(), recordedBytes().size());
+    QCOMPARE(report.value("frames").toInteger(), 1737);
+    QCOMPARE(report.value("crcErrors").toInteger(), 1);
+    QCOMPARE(report.value("skippedBytes").toInteger(), 0);
+    QCOMPARE(report.value("unknownFrames").toInteger(), 0);
+    QCOMPARE(report.value("eventsOmitted").toInteger(), 0);
+    QCOMPARE(sendersOf(report), (QStringList{"1/1 1677 2 8", "255/190 60 0 0"}));
+    QCOMPARE(damageOf(report), QStringList{"MOTION 1"});
+    const QJsonObject first = report.value("messages").toArray().at(0).toObject();
+    QCOMPARE(first.keys(), (QStringList{"count", "crcErrors", "format", "name"}));
+    QCOMPARE(first.value("format").toString(), QStringLiteral("MAVLink"));
+    const QJsonObject event = report.value("events").toArray().at(0).toObject();
+    QCOMPARE(event.value("time").toString(), QStringLiteral("2026-01-01T12:00:22.200Z"));
+    QVERIFY(event.value("text").toString().startsWith(
+        QStringLiteral("CRC error: MOTION from sender 1/1")));
+}
+
+void tst_inspector::jsonReport_ofCaptures_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("frames");
+    QTest::addColumn<int>("types");
+    QTest::addColumn<int>("skippedBytes");
+    QTest::addColumn<QStringList>("senders");
+    QTest::addColumn<QStringList>("damage");
+    QTest::newRow("ardusub") << "captures/ardusub-small.tlog" << 35912 << 46 << 0
+                             << QStringList{"1/1 32584 0 0", "1/100 286 4 4", "1/194 264 263 1009",
+                                            "1/220 1011 263 263", "255/190 1767 356 6388"}
+                             << QStringList{"CAMERA_CAPTURE_STATUS 1", "CAMERA_INFORMATION 1",
+                                            "CAMERA_SETTINGS 1", "VIDEO_STREAM_INFORMATION 1"};
+    QTest::newRow("vtol") << "captures/vtol.tlog" << 23894 << 41 << 0
+                          << QStringList{"1/1 23894 22 1200"} << QStringList();
+    QTest::newRow("raw") << "captures/node-mavlink-data.mavlink" << 1476 << 24 << 11
+                         << QStringList{"1/1 1476 0 0"} << QStringList();
+    QTest::newRow("cut short") << "malformed/pymavlink-capture.mavlink" << 0 << 0 << 36764
+                               << QStringList() << QStringList();
+}
+
+void tst_inspector::jsonReport_ofCaptures()
+{
+    CORVANE_SAMPLE_FILE(definitions, "mavlink/definitions/all.xml");
+    QFETCH(QString, file);
+    QFETCH(int, frames);
+    QFETCH(int, types);
+    QFETCH(int, skippedBytes);
+    QFETCH(QStringList, senders);
+    QFETCH(QStringList, damage);
+    const QString capture = sampleFile(QStringLiteral("mavlink/") + file);
+    const Outcome outcome = run({"--definitions", definitions, "--report", "json", capture});
+    QCOMPARE(outcome.exitCode, 0);
+    const QJsonObject report = outcome.json();
+    QCOMPARE(report.value("frames").toInteger(), frames);
+    QCOMPARE(countSeenTypes(report), types);
+    QCOMPARE(report.value("skippedBytes").toInteger(), skippedBytes);
+    QCOMPARE(report.value("unknownFrames").toInteger(), 0);
+    QCOMPARE(report.value("crcErrors").toInteger(), damage.size());
+    QCOMPARE(sendersOf(report), senders);
+    QCOMPARE(damageOf(report), damage);
+}
+
+void tst_inspector::jsonReport_manyEvents_saysHowManyAreOmitted()
+{
+    // Every second frame of one sender is missing: one event each.
+    const QByteArray whole = recordedBytes();
+    QByteArray thinned;
+    qsizetype position = 0;
+    for (int number = 0; position + 18 < whole.size(); ++number) {
+        const qsizetype size = 8 + 12 + static_cast<quint8>(whole.at(position + 9));
+        if (number % 2 == 0)
+            thinned += whole.mid(position, size);
+        position += size;
+    }
+    QByteArray repeated;
+    for (int i = 0; i < 3; ++i)
+        repeated += thinned;
+    const QJsonObject report = reportOn(QStringLiteral("-"), repeated).json();
+    QCOMPARE(report.value("events").toArray().size(), 1000);
+    QVERIFY(report.value("eventsOmitted").toInteger() > 500);
+}
+
+void tst_inspector::textReport_listsMessagesSendersAndEvents()
+{
+    const Outcome outcome
+        = run(onExample({"--report", "text", example(QStringLiteral("rover.tlog"))}));
+    QCOMPARE(outcome.exitCode, 0);
+    for (const char *part :
+         {"Good frames:     1737", "597            0  WHEELS", "8  1/1", "CRC error: MOTION"})
+        QVERIFY2(outcome.output.contains(part), part);
+}
+
+void tst_inspector::report_fromStandardInput()
+{
+    const Outcome outcome = reportOn(QStringLiteral("-"), recordedBytes());
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(outcome.json().value("frames").toInteger(), 1737);
+}
+
+void tst_inspector::report_fromProgram()
+{
+    const Outcome outcome
+        = reportOn(QStringLiteral("exec:cat '%1'").arg(example(QStringLiteral("rover.tlog"))));
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(outcome.json().value("frames").toInteger(), 1737);
+}
+
+void tst_inspector::report_fromListenedSocket_endsWithDuration()
+{
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    connect(&server, &QTcpServer::newConnection, this,
+            [&] { server.nextPendingConnection()->write(recordedBytes().left(30'000)); });
+    QProcess process;
+    process.start(QStringLiteral(CORVANE_INSPECTOR),
+                  onExample({"--report", "json", "--duration", "1.5",
+                             QStringLiteral("tcp://127.0.0.1:%1").arg(server.serverPort())}));
+    QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, 30'000);
+    QCOMPARE(process.exitCode(), 0);
+    const auto report = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+    QCOMPARE(report.value("bytes").toInteger(), 30'000);
+    QVERIFY(report.value("frames").toInteger() > 500);
+}
+
+void tst_inspector::report_confidentialValues_areNowhere()
+{
+    const Outcome outcome
+        = run(onExample({"--overlay", example(QStringLiteral("rover.overlay.json")), "--report",
+                         "json", example(QStringLiteral("rover.tlog"))}));
+    QCOMPARE(outcome.exitCode, 0);
+    QVERIFY(!outcome.output.contains("-77"));
+}
+
+void tst_inspector::mistake_exitsWith1AndSaysWhere_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("part");
+    const QString recording = example(QStringLiteral("rover.tlog"));
+    QTest::newRow("no definitions")
+        << QStringList{"--report", "json", recording} << QByteArray("--definitions FILE");
+    QTest::newRow("missing definitions")
+        << QStringList{"--definitions", "gone.xml", "--report", "json", recording}
+        << QByteArray("gone.xml");
+    QTest::newRow("definitions that are none")
+        << QStringList{"--definitions", recording, "--report", "json", recording}
+        << QByteArray("rover.tlog:1:");
+    QTest::newRow("overlay that is none") << onExample(
+        {"--overlay", example(QStringLiteral("rover.xml")), "--report", "json", recording})
+                                          << QByteArray("rover.xml:1:1");
+    QTest::newRow("missing source")
+        << onExample({"--report", "json", "gone.tlog"}) << QByteArray("gone.tlog");
+    QTest::newRow("folder as source") << onExample({"--report", "json", "."}) << QByteArray(".");
+    QTest::newRow("unknown scheme")
+        << onExample({"--report", "json", "gopher://x"}) << QByteArray("gopher");
+    QTest::newRow("refused connection")
+        << onExample({"--report", "json", "tcp://127.0.0.1:1"}) << QByteArray("127.0.0.1:1");
+    QTest::newRow("unknown option") << QStringList{"--wrong"} << QByteArray("wrong");
+}
+
+void tst_inspector::mistake_exitsWith1AndSaysWhere()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, part);
+    const Outcome outcome = run(arguments);
+    QCOMPARE(outcome.exitCode, 1);
+    QVERIFY2(outcome.errors.startsWith("corvane-inspector: "), outcome.errors.constData());
+    QVERIFY2(outcome.errors.contains(part), outcome.errors.constData());
+    QCOMPARE(outcome.output, QByteArray());
+}
+
+void tst_inspector::failingProgram_keepsTheReport()
+{
+    const Outcome outcome = reportOn(
+        QStringLiteral("exec:cat '%1'; exit 3").arg(example(QStringLiteral("rover.tlog"))));
+    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.json().value("frames").toInteger(), 1737);
+    QVERIFY2(outcome.errors.contains("3"), outcome.errors.constData());
+}
+
+void tst_inspector::screenshot_showsTheWindow()
+{
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath(QStringLiteral("window.png"));
+    const Outcome outcome = run(onExample({"--speed", "max", "--screenshot", picture, "--after",
+                                           "1", example(QStringLiteral("rover.tlog"))}));
+    QCOMPARE(outcome.exitCode, 0);
+    const QImage image(picture);
+    QVERIFY(image.width() > 300 && image.height() > 200);
+    QVERIFY(image.convertToFormat(QImage::Format_Indexed8).colorCount() > 2);
+}
+
+void tst_inspector::screenshot_unwritable_exitsWith1()
+{
+    const Outcome outcome = run({"--screenshot", "no/such/folder/window.png", "--after", "0"});
+    QCOMPARE(outcome.exitCode, 1);
+    QVERIFY(outcome.errors.contains("no/such/folder/window.png"));
+}
+
+void tst_inspector::version_isPrinted()
+{
+    const Outcome outcome = run({"--version"});
+    QCOMPARE(outcome.exitCode, 0);
+    QVERIFY(outcome.output.startsWith("corvane-inspector "));
+}
+
+CORVANE_TEST_MAIN(tst_inspector)
+#include "tst_inspector.moc"

@@ -1,0 +1,178 @@
+#include "fieldvaluelabel.h"
+#include "mainwindow.h"
+#include "messagewidget.h"
+#include "session.h"
+#include "testcase.h"
+
+#include <QAbstractItemModel>
+#include <QApplication>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTreeView>
+
+using namespace corvane;
+using namespace corvane::test;
+
+class tst_mainwindow : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutSource_saysHowToOpenOne();
+    void firstMessage_isChosenAndShown();
+    void types_areListedWithTheirCounts();
+    void choosingAType_showsItsLastMessageAtOnce();
+    void form_followsTheStream();
+    void keyboard_reachesEveryType();
+    void countHeader_clicked_sortsByNumber();
+    void darkPalette_isFollowed();
+    void totals_nameDamage();
+};
+
+namespace {
+
+/** A window on the recording in the examples. */
+class Shown
+{
+public:
+    explicit Shown(std::optional<double> speed = std::nullopt)
+    {
+        options.definitions = {sourceFile(QStringLiteral("examples/recording/rover.xml"))};
+        options.source
+            = SourceAddress::parse(sourceFile(QStringLiteral("examples/recording/rover.tlog")))
+                  .address;
+        options.speed = speed;
+        session.load(options);
+        window = std::make_unique<MainWindow>(session);
+        window->show();
+        QSignalSpy finished(&session, &Session::finished);
+        session.start(options);
+        if (!speed)
+            finished.wait();
+    }
+
+    QTreeView *types() const { return window->findChild<QTreeView *>(); }
+
+    QModelIndex indexOf(const QString &name) const
+    {
+        const auto found = types()->model()->match(types()->model()->index(0, 0), Qt::DisplayRole,
+                                                   name, 1, Qt::MatchExactly);
+        return found.value(0);
+    }
+
+    void choose(const QString &name) const { types()->setCurrentIndex(indexOf(name)); }
+
+    /** The form as lines "name: value". */
+    QStringList form() const
+    {
+        QStringList lines;
+        const auto labels = window->findChild<MessageWidget *>()->findChildren<QLabel *>();
+        for (qsizetype i = 0; i + 1 < labels.size(); i += 2)
+            lines += labels.at(i)->text() + QStringLiteral(": ") + labels.at(i + 1)->text();
+        return lines;
+    }
+
+    bool says(const QString &text) const
+    {
+        for (const QLabel *label : window->findChildren<QLabel *>())
+            if (label->text().contains(text))
+                return true;
+        return false;
+    }
+
+    Options options;
+    Session session;
+    std::unique_ptr<MainWindow> window;
+};
+
+} // namespace
+
+void tst_mainwindow::withoutSource_saysHowToOpenOne()
+{
+    Session session;
+    const MainWindow window(session);
+    const auto labels = window.findChildren<QLabel *>();
+    const bool explained = std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+        return label->text().contains(QStringLiteral("No source is open"));
+    });
+    QVERIFY(explained);
+}
+
+void tst_mainwindow::firstMessage_isChosenAndShown()
+{
+    const Shown shown;
+    QVERIFY(shown.types()->currentIndex().isValid());
+    QTRY_VERIFY(!shown.form().isEmpty());
+    QVERIFY(!shown.form().constFirst().endsWith(QStringLiteral("N/A")));
+}
+
+void tst_mainwindow::types_areListedWithTheirCounts()
+{
+    const Shown shown;
+    QTRY_COMPARE(shown.indexOf(QStringLiteral("MOTION")).siblingAtColumn(1).data().toString(),
+                 QStringLiteral("596"));
+    QCOMPARE(shown.types()->model()->rowCount(), 6);
+}
+
+void tst_mainwindow::choosingAType_showsItsLastMessageAtOnce()
+{
+    const Shown shown;
+    QTRY_VERIFY(shown.indexOf(QStringLiteral("TEXT")).isValid());
+    shown.choose(QStringLiteral("TEXT"));
+    QCOMPARE(shown.form(), (QStringList{QStringLiteral("severity: ROVER_SEVERITY_INFO"),
+                                        QStringLiteral("text: Returning home")}));
+    QVERIFY(shown.says(QStringLiteral("A line of text for people.")));
+}
+
+void tst_mainwindow::form_followsTheStream()
+{
+    const Shown shown(10.0);
+    QTRY_VERIFY(shown.indexOf(QStringLiteral("HEARTBEAT")).isValid());
+    shown.choose(QStringLiteral("HEARTBEAT"));
+    const QString before = shown.form().constFirst();
+    QTRY_VERIFY(shown.form().constFirst() != before);
+}
+
+void tst_mainwindow::keyboard_reachesEveryType()
+{
+    const Shown shown;
+    QTRY_COMPARE(shown.types()->model()->rowCount(), 6);
+    QTest::keyClick(shown.types(), Qt::Key_Home);
+    QCOMPARE(shown.types()->currentIndex().data().toString(), QStringLiteral("BATTERY"));
+    QTest::keyClick(shown.types(), Qt::Key_Down);
+    QVERIFY(shown.says(QStringLiteral("Says once a second who is there")));
+    QTest::keyClick(shown.types(), Qt::Key_End);
+    QCOMPARE(shown.types()->currentIndex().data().toString(), QStringLiteral("WHEELS"));
+}
+
+void tst_mainwindow::countHeader_clicked_sortsByNumber()
+{
+    const Shown shown;
+    QTRY_COMPARE(shown.indexOf(QStringLiteral("WHEELS")).siblingAtColumn(1).data().toString(),
+                 QStringLiteral("597"));
+    shown.types()->sortByColumn(1, Qt::AscendingOrder);
+    QCOMPARE(shown.types()->model()->index(0, 0).data().toString(), QStringLiteral("TEXT"));
+    QCOMPARE(shown.types()->model()->index(5, 0).data().toString(), QStringLiteral("WHEELS"));
+}
+
+void tst_mainwindow::darkPalette_isFollowed()
+{
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 40, 40), QColor(30, 30, 30)));
+    {
+        const Shown shown;
+        const QImage image = shown.window->grab().toImage();
+        QVERIFY(image.pixelColor(image.width() - 3, image.height() / 2).lightness() < 80);
+    }
+    QApplication::setPalette(light);
+}
+
+void tst_mainwindow::totals_nameDamage()
+{
+    const Shown shown;
+    QTRY_VERIFY(shown.says(QStringLiteral("1 CRC errors")));
+}
+
+CORVANE_GUI_TEST_MAIN(tst_mainwindow)
+#include "tst_mainwindow.moc"

@@ -1,0 +1,136 @@
+#include "message.h"
+#include "messageinfo.h"
+#include "session.h"
+#include "testcase.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+using namespace corvane;
+using namespace corvane::test;
+
+class tst_session : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void load_recordingsDefinitions_needsEveryType();
+    void load_brokenFiles_areNamedWithTheirPlaces();
+    void start_asFastAsPossible_deliversEveryGoodFrame();
+    void start_atOwnPace_waitsForTheFrames();
+    void start_missingFile_failsAndSaysSo();
+    void getSourceName_withoutSource_isEmpty();
+};
+
+namespace {
+
+Options recordingOptions()
+{
+    Options options;
+    options.definitions = {sourceFile(QStringLiteral("examples/recording/rover.xml"))};
+    options.overlays = {sourceFile(QStringLiteral("examples/recording/rover.overlay.json"))};
+    options.source
+        = SourceAddress::parse(sourceFile(QStringLiteral("examples/recording/rover.tlog"))).address;
+    return options;
+}
+
+} // namespace
+
+void tst_session::load_recordingsDefinitions_needsEveryType()
+{
+    Session session;
+    QCOMPARE(session.load(recordingOptions()), QStringList());
+    Options options = recordingOptions();
+    options.speed.reset();
+    QStringList names;
+    connect(&session.getReception(), &MessageSource::newMessage, this, [&](const Message *message) {
+        if (!names.contains(message->getInfo()->getName()))
+            names.append(message->getInfo()->getName());
+    });
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    QVERIFY(finished.wait());
+    names.sort();
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             QStringLiteral("BATTERY HEARTBEAT MOTION POSITION TEXT WHEELS"));
+}
+
+void tst_session::load_brokenFiles_areNamedWithTheirPlaces()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("broken.xml"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<mavlink>\n<messages>\n<message id=\"x\" name=\"A\"/>\n</messages></mavlink>");
+    file.close();
+
+    Options options = recordingOptions();
+    options.definitions = {path};
+    Session session;
+    const QStringList errors = session.load(options);
+    QCOMPARE(errors.size(), 1);
+    QVERIFY2(errors.at(0).contains(QStringLiteral("broken.xml:3:")), qPrintable(errors.at(0)));
+
+    options = recordingOptions();
+    options.overlays = {path};
+    Session other;
+    const QStringList overlayErrors = other.load(options);
+    QCOMPARE(overlayErrors.size(), 1);
+    QVERIFY2(overlayErrors.at(0).contains(QStringLiteral("broken.xml:1:1:")),
+             qPrintable(overlayErrors.at(0)));
+}
+
+void tst_session::start_asFastAsPossible_deliversEveryGoodFrame()
+{
+    Options options = recordingOptions();
+    options.speed.reset();
+    Session session;
+    session.load(options);
+    QSignalSpy messages(&session.getReception(), &MessageSource::newMessage);
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    QVERIFY(finished.wait());
+    QCOMPARE(messages.size(), 1737);
+    QCOMPARE(session.getReception().getTotals().frames, 1737U);
+    QCOMPARE(session.getReception().getTotals().skippedBytes, 0U);
+}
+
+void tst_session::start_atOwnPace_waitsForTheFrames()
+{
+    Options options = recordingOptions();
+    options.speed = 4.0;
+    Session session;
+    session.load(options);
+    session.start(options);
+    QTest::qWait(500);
+    // A minute with 29 frames a second, four times as fast: about 60 in half a second.
+    const quint64 frames = session.getReception().getTotals().frames;
+    QVERIFY2(frames > 5 && frames < 600, qPrintable(QString::number(frames)));
+    session.stop();
+}
+
+void tst_session::start_missingFile_failsAndSaysSo()
+{
+    Options options = recordingOptions();
+    options.source = SourceAddress::parse(QStringLiteral("no/such/file.tlog")).address;
+    Session session;
+    session.load(options);
+    QSignalSpy failed(&session, &Session::failed);
+    session.start(options);
+    QTRY_COMPARE(failed.size(), 1);
+    QVERIFY(failed.at(0).at(0).toString().contains(QStringLiteral("no/such/file.tlog")));
+    const auto entries = session.getReception().getEventLog()->getEntries();
+    QCOMPARE(entries.constLast().event.getType(), CorvaneEvent::SourceFailed);
+}
+
+void tst_session::getSourceName_withoutSource_isEmpty()
+{
+    Session session;
+    QCOMPARE(session.load({}), QStringList());
+    session.start({});
+    QCOMPARE(session.getSourceName(), QString());
+}
+
+CORVANE_TEST_MAIN(tst_session)
+#include "tst_session.moc"
