@@ -1,3 +1,4 @@
+#include "networkprobe.h"
 #include "sourcereader.h"
 #include "tcplistenersource.h"
 #include "testcase.h"
@@ -133,9 +134,9 @@ void TestTcpListenerSource::read_ofIpv6()
 {
     TcpListenerSource source(QStringLiteral("::1"), 0);
     test::SourceReader reader(source);
-    source.open();
-    if (reader.events == QStringList({"failed"}))
+    if (!test::hasIpv6())
         QSKIP("this machine has no IPv6");
+    source.open();
     QVERIFY2(source.getName().startsWith("tcp-listen://[::1]:"), qPrintable(source.getName()));
     QTcpSocket peer;
     peer.connectToHost(QHostAddress(QHostAddress::LocalHostIPv6), getPort(source));

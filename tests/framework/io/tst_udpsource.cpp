@@ -1,3 +1,4 @@
+#include "networkprobe.h"
 #include "sourcereader.h"
 #include "testcase.h"
 #include "udpsource.h"
@@ -92,9 +93,9 @@ void TestUdpSource::read_ofIpv6()
 {
     UdpSource source(QStringLiteral("::1"), 0);
     test::SourceReader reader(source);
-    source.open();
-    if (reader.events == QStringList({"failed"}))
+    if (!test::hasIpv6())
         QSKIP("this machine has no IPv6");
+    source.open();
     QVERIFY2(source.getName().startsWith("udp://[::1]:"), qPrintable(source.getName()));
     QUdpSocket sender;
     sender.writeDatagram("six", QHostAddress(QHostAddress::LocalHostIPv6), getPort(source));
@@ -109,8 +110,9 @@ void TestUdpSource::read_ofAnyAddress_takesBothFamilies()
     QUdpSocket four;
     four.writeDatagram("four", QHostAddress(loopback), getPort(source));
     QTRY_COMPARE(reader.bytes, "four");
-    if (!source.getName().startsWith("udp://[::]:"))
+    if (!test::hasIpv6())
         QSKIP("this machine has no IPv6");
+    QVERIFY2(source.getName().startsWith("udp://[::]:"), qPrintable(source.getName()));
     QUdpSocket six;
     six.writeDatagram("six", QHostAddress(QHostAddress::LocalHostIPv6), getPort(source));
     QTRY_COMPARE(reader.bytes, "foursix");
@@ -121,15 +123,15 @@ void TestUdpSource::open_ofMulticastGroup_joinsIt()
     const QString group = QStringLiteral("239.255.77.77");
     UdpSource source(group, 0);
     test::SourceReader reader(source);
+    if (!test::hasMulticast(group))
+        QSKIP("this machine has no network that takes multicast");
     source.open();
-    if (reader.events == QStringList({"failed"}))
-        QSKIP(qPrintable("no network that takes multicast: " + reader.failure));
+    QVERIFY2(reader.failure.isEmpty(), qPrintable(reader.failure));
     QVERIFY(source.getName().startsWith("udp://239.255.77.77:"));
     QUdpSocket sender;
     sender.setSocketOption(QAbstractSocket::MulticastTtlOption, 0);
     sender.setSocketOption(QAbstractSocket::MulticastLoopbackOption, 1);
-    if (sender.writeDatagram("to all", QHostAddress(group), getPort(source)) < 0)
-        QSKIP(qPrintable("no route for multicast: " + sender.errorString()));
+    QCOMPARE(sender.writeDatagram("to all", QHostAddress(group), getPort(source)), 6);
     QTRY_COMPARE(reader.bytes, "to all");
 }
 
@@ -149,8 +151,12 @@ void TestUdpSource::droppedCount_whenTheBufferOverflows()
     test::SourceReader reader(source);
     reader.setPaused(true);
     source.open();
+#ifdef Q_OS_LINUX
+    QVERIFY(source.getDroppedCount());
+#else
     if (!source.getDroppedCount())
-        QSKIP("this system does not tell what it drops");
+        QSKIP("only Linux tells what it drops");
+#endif
     QCOMPARE(source.getDroppedCount(), quint64(0));
     QUdpSocket sender;
     constexpr quint64 sent = 500;
