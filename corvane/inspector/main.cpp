@@ -4,6 +4,7 @@
 #include "session.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <QTimer>
 
 #include <cstdio>
@@ -97,7 +98,9 @@ int runWindow(const Options &options)
     if (!errors.isEmpty())
         return complain(errors.join(QLatin1Char('\n')));
 
-    corvane::MainWindow window(session);
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("corvane"),
+                       QStringLiteral("corvane-inspector"));
+    corvane::MainWindow window(session, settings);
     window.setWindowTitle(QCoreApplication::translate("main", "Corvane Inspector"));
     QObject::connect(&session, &Session::finished, &window, [&] {
         window.showState(

@@ -1,52 +1,58 @@
 #include "mainwindow.h"
 
-#include "descriptions.h"
+#include "formpanel.h"
 #include "latestmessages.h"
-#include "message.h"
 #include "messageinfo.h"
 #include "messagestatistics.h"
 #include "messagetypemodel.h"
-#include "messagewidget.h"
 #include "session.h"
 
+#include <QCloseEvent>
+#include <QDockWidget>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
-#include <QScrollArea>
+#include <QMenuBar>
+#include <QSettings>
 #include <QSortFilterProxyModel>
-#include <QSplitter>
 #include <QStatusBar>
 #include <QTreeView>
-#include <QVBoxLayout>
 
 namespace corvane {
 
 namespace {
 
-// The views need no more than the eye does; every message is counted all the same.
-constexpr int formIntervalMs = 16;
+// Counts need no more than the eye does; every message is counted all the same.
 constexpr int countsIntervalMs = 250;
+
+QString geometryKey()
+{
+    return QStringLiteral("window/geometry");
+}
+
+QString layoutKey()
+{
+    return QStringLiteral("window/layout");
+}
 
 } // namespace
 
-MainWindow::MainWindow(Session &session, QWidget *parent)
+MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     : QMainWindow(parent)
     , session(session)
+    , settings(settings)
     , latest(new LatestMessages(session.getReception(), this))
     , types(new MessageTypeModel(*session.getReception().getStatistics(), this))
     , sortedTypes(new QSortFilterProxyModel(this))
 {
+    setDockNestingEnabled(true);
     createTypeView();
-    auto *splitter = new QSplitter(this);
-    splitter->addWidget(typeView);
-    splitter->addWidget(createFormSide());
-    splitter->setStretchFactor(1, 1);
-    splitter->setChildrenCollapsible(false);
-    setCentralWidget(splitter);
+    createMenus();
+    createPanels();
     createStatusBar();
     connectAll();
-    resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 42);
-    splitter->setSizes({width() * 2 / 5, width() * 3 / 5});
+    resize(fontMetrics().averageCharWidth() * 180, fontMetrics().height() * 50);
+    restoreLayout();
     showChosenType();
     refreshCounts();
 }
@@ -69,33 +75,51 @@ void MainWindow::createTypeView()
                                       fontMetrics().averageCharWidth() * 14);
 }
 
-QWidget *MainWindow::createFormSide()
+void MainWindow::createMenus()
 {
-    auto *side = new QWidget(this);
-    heading = new QLabel(side);
-    QFont headingFont = heading->font();
-    headingFont.setPointSizeF(headingFont.pointSizeF() * 1.3);
-    headingFont.setBold(true);
-    heading->setFont(headingFont);
-    heading->setTextFormat(Qt::PlainText);
-    description = new QLabel(side);
-    description->setTextFormat(Qt::PlainText);
-    description->setWordWrap(true);
-    form = new MessageWidget;
-    form->setAccessibleName(tr("Fields of the chosen message type"));
-    formArea = new QScrollArea(side);
-    formArea->setWidgetResizable(true);
-    auto *content = new QWidget;
-    auto *contentLayout = new QVBoxLayout(content);
-    contentLayout->addWidget(form);
-    contentLayout->addStretch(1); // a short form stays at the top instead of spreading
-    formArea->setWidget(content);
+    QMenu *fileMenu = menuBar()->addMenu(tr("&File"));
+    QAction *quit = fileMenu->addAction(tr("&Quit"), this, &QWidget::close);
+    quit->setShortcut(QKeySequence::Quit);
+    viewMenu = menuBar()->addMenu(tr("&View"));
+    pauseAction = viewMenu->addAction(tr("&Pause the Views"));
+    pauseAction->setCheckable(true);
+    pauseAction->setShortcut(tr("Ctrl+P"));
+    pauseAction->setToolTip(tr("Leave the views as they are; everything is counted all the same"));
+    viewMenu->addSeparator();
+}
 
-    auto *layout = new QVBoxLayout(side);
-    layout->addWidget(heading);
-    layout->addWidget(description);
-    layout->addWidget(formArea, 1);
-    return side;
+void MainWindow::createPanels()
+{
+    form = new FormPanel(*latest);
+    addPanel(typeView, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
+    addPanel(form, QStringLiteral("form"), tr("Form"), Qt::RightDockWidgetArea);
+}
+
+QDockWidget *MainWindow::addPanel(QWidget *panel,
+                                  const QString &name,
+                                  const QString &title,
+                                  Qt::DockWidgetArea area)
+{
+    auto *dock = new QDockWidget(title, this);
+    dock->setObjectName(name);
+    dock->setWidget(panel);
+    addDockWidget(area, dock);
+    viewMenu->addAction(dock->toggleViewAction());
+    return dock;
+}
+
+void MainWindow::restoreLayout()
+{
+    // Qt refuses what it did not write itself, and leaves the window as it is then.
+    restoreGeometry(settings.value(geometryKey()).toByteArray());
+    restoreState(settings.value(layoutKey()).toByteArray());
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    settings.setValue(geometryKey(), saveGeometry());
+    settings.setValue(layoutKey(), saveState());
+    QMainWindow::closeEvent(event);
 }
 
 void MainWindow::createStatusBar()
@@ -113,11 +137,17 @@ void MainWindow::connectAll()
     connect(latest, &LatestMessages::typeSeen, this, &MainWindow::chooseFirstType);
     connect(typeView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &MainWindow::showChosenType);
-    connect(&formTimer, &QTimer::timeout, this, &MainWindow::refreshForm);
+    connect(pauseAction, &QAction::toggled, this, &MainWindow::setPaused);
     connect(&countsTimer, &QTimer::timeout, this, &MainWindow::refreshCounts);
-    formTimer.start(formIntervalMs);
     countsTimer.start(countsIntervalMs);
     sinceCounts.start();
+}
+
+void MainWindow::setPaused(bool paused)
+{
+    framesAtPause = session.getReception().getTotals().frames;
+    latest->setPaused(paused);
+    refreshCounts();
 }
 
 void MainWindow::showState(const QString &text)
@@ -125,7 +155,7 @@ void MainWindow::showState(const QString &text)
     stateLabel->setText(text);
 }
 
-void MainWindow::chooseFirstType(const MessageInfo *)
+void MainWindow::chooseFirstType()
 {
     types->refresh();
     if (!typeView->currentIndex().isValid())
@@ -136,13 +166,11 @@ void MainWindow::showChosenType()
 {
     const QModelIndex index = sortedTypes->mapToSource(typeView->currentIndex());
     const MessageStatistics *chosen = types->getStatistics(index);
-    chosenType = chosen != nullptr ? chosen->getMessageInfo() : nullptr;
-    shownMessage = nullptr;
-    heading->setText(chosen != nullptr ? chosen->getMessageName() : QString());
-    description->setText(chosenType != nullptr ? chosenType->getData()->description
-                                               : getPlaceholderText());
-    form->setMessageInfo(chosenType);
-    refreshForm();
+    if (chosen != nullptr && chosen->getMessageInfo() != nullptr)
+        form->showType(chosen->getMessageInfo());
+    else
+        form->showText(chosen != nullptr ? chosen->getMessageName() : QString(),
+                       getPlaceholderText());
 }
 
 QString MainWindow::getPlaceholderText() const
@@ -156,15 +184,6 @@ QString MainWindow::getPlaceholderText() const
                : tr("Waiting for messages from %1.").arg(session.getSourceName());
 }
 
-void MainWindow::refreshForm()
-{
-    const Message *message = chosenType != nullptr ? latest->get(chosenType) : nullptr;
-    if (message == nullptr || message == shownMessage)
-        return;
-    shownMessage = message;
-    form->processMessage(message);
-}
-
 void MainWindow::refreshCounts()
 {
     types->refresh();
@@ -173,15 +192,17 @@ void MainWindow::refreshCounts()
     const auto newFrames = static_cast<double>(totals.frames - framesAtCounts);
     framesAtCounts = totals.frames;
     const QLocale locale;
-    QString text = tr("%1 messages, %2 per second")
+    QString text = tr("Messages: %1 (%2 per second)")
                        .arg(locale.toString(totals.frames),
                             locale.toString(seconds > 0 ? qRound64(newFrames / seconds) : 0));
     if (totals.crcErrors.value_or(0) > 0)
-        text += tr(", %1 CRC errors").arg(locale.toString(*totals.crcErrors));
+        text += tr(", CRC errors: %1").arg(locale.toString(*totals.crcErrors));
     if (totals.unknownFrames > 0)
-        text += tr(", %1 unknown").arg(locale.toString(totals.unknownFrames));
+        text += tr(", unknown: %1").arg(locale.toString(totals.unknownFrames));
     if (const auto dropped = session.getDroppedCount(); dropped.value_or(0) > 0)
-        text += tr(", %1 datagrams dropped").arg(locale.toString(*dropped));
+        text += tr(", datagrams dropped: %1").arg(locale.toString(*dropped));
+    if (latest->isPaused())
+        text = tr("Paused, new: %1; ").arg(locale.toString(totals.frames - framesAtPause)) + text;
     totalsLabel->setText(text);
 }
 

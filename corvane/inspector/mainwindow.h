@@ -4,60 +4,68 @@
 #include <QMainWindow>
 #include <QTimer>
 
-class Message;
 class MessageInfo;
-class MessageWidget;
+class QAction;
+class QDockWidget;
 class QLabel;
-class QScrollArea;
+class QMenu;
+class QSettings;
 class QSortFilterProxyModel;
 class QTreeView;
 
 namespace corvane {
 
+class FormPanel;
 class LatestMessages;
 class MessageTypeModel;
 class Session;
 
-/** The inspector's window: the message types seen so far, and a form of the chosen one, live. */
+/** The inspector's window: panels that each show another side of what is received, live. */
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /** \a session is not owned and must outlive the window. */
-    explicit MainWindow(Session &session, QWidget *parent = nullptr);
+    /** Neither \a session nor \a settings is owned; both must outlive the window. */
+    MainWindow(Session &session, QSettings &settings, QWidget *parent = nullptr);
 
     /** Shows \a text in the bar at the bottom until the next one. */
     void showState(const QString &text);
 
+protected:
+    /** Remembers the layout. */
+    void closeEvent(QCloseEvent *event) override;
+
 private:
     void createTypeView();
+    void createPanels();
+    void createMenus();
     void createStatusBar();
     void connectAll();
-    QWidget *createFormSide();
-    void chooseFirstType(const MessageInfo *type);
+    QDockWidget *
+    addPanel(QWidget *panel, const QString &name, const QString &title, Qt::DockWidgetArea area);
+    void restoreLayout();
+    void chooseFirstType();
     void showChosenType();
-    void refreshForm();
+    void setPaused(bool paused);
     void refreshCounts();
     QString getPlaceholderText() const;
 
     Session &session;
+    QSettings &settings;
     LatestMessages *latest; ///< Owned as a child.
     MessageTypeModel *types; ///< Owned as a child.
     QSortFilterProxyModel *sortedTypes; ///< Owned as a child.
     QTreeView *typeView = nullptr; ///< Owned as a child.
-    QLabel *heading = nullptr; ///< Owned as a child.
-    QLabel *description = nullptr; ///< Owned as a child.
-    QScrollArea *formArea = nullptr; ///< Owned as a child.
-    MessageWidget *form = nullptr; ///< Owned as a child.
+    FormPanel *form = nullptr; ///< Owned as a child.
+    QMenu *viewMenu = nullptr; ///< Owned as a child.
+    QAction *pauseAction = nullptr; ///< Owned as a child.
     QLabel *stateLabel = nullptr; ///< Owned as a child.
     QLabel *totalsLabel = nullptr; ///< Owned as a child.
-    QTimer formTimer;
     QTimer countsTimer;
     QElapsedTimer sinceCounts;
     quint64 framesAtCounts = 0;
-    const Message *shownMessage = nullptr; ///< Compared only; may be gone.
-    const MessageInfo *chosenType = nullptr; ///< Not owned.
+    quint64 framesAtPause = 0;
 };
 
 } // namespace corvane

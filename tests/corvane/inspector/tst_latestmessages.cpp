@@ -16,6 +16,8 @@ private Q_SLOTS:
     void get_ofUnseenType_isNull();
     void typeSeen_isEmittedOncePerType();
     void references_oneIsHeldOnTheNewestOnly();
+    void newMessage_ofManyInAFrame_isTheNewestOfEachType();
+    void newMessage_whilePaused_waits();
 };
 
 namespace {
@@ -76,6 +78,43 @@ void tst_latestmessages::references_oneIsHeldOnTheNewestOnly()
         QCOMPARE(sent.at(1)->getReferenceCount(), 2);
     }
     QCOMPARE(sent.at(1)->getReferenceCount(), 1);
+}
+
+void tst_latestmessages::newMessage_ofManyInAFrame_isTheNewestOfEachType()
+{
+    const TestFormat format = makeFormat();
+    TestSource source(format);
+    const corvane::LatestMessages latest(source);
+    QList<const Message *> handedOn;
+    connect(&latest, &MessageSource::newMessage, this,
+            [&](const Message *message) { handedOn.append(message); });
+    const auto sent
+        = format.messages(QStringLiteral("Speed{value: 1} Mode{value: 2} Speed{value: 3}"));
+    for (const MessageHolder &message : sent)
+        source.send(message.get());
+    QVERIFY(handedOn.isEmpty());
+    QTRY_COMPARE(handedOn, (QList<const Message *>{sent.at(2).get(), sent.at(1).get()}));
+    source.send(sent.at(0).get());
+    QTRY_COMPARE(handedOn.size(), 3);
+    QCOMPARE(handedOn.constLast(), sent.at(0).get());
+}
+
+void tst_latestmessages::newMessage_whilePaused_waits()
+{
+    const TestFormat format = makeFormat();
+    TestSource source(format);
+    corvane::LatestMessages latest(source);
+    QList<const Message *> handedOn;
+    connect(&latest, &MessageSource::newMessage, this,
+            [&](const Message *message) { handedOn.append(message); });
+    latest.setPaused(true);
+    const auto sent = format.messages(QStringLiteral("Speed{value: 1} Speed{value: 3}"));
+    source.send(sent.at(0).get());
+    source.send(sent.at(1).get());
+    QTest::qWait(3 * corvane::LatestMessages::frameMs);
+    QVERIFY(handedOn.isEmpty());
+    latest.setPaused(false);
+    QCOMPARE(handedOn, (QList<const Message *>{sent.at(1).get()}));
 }
 
 CORVANE_TEST_MAIN(tst_latestmessages)

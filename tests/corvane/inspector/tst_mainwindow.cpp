@@ -5,10 +5,14 @@
 #include "testcase.h"
 
 #include <QAbstractItemModel>
+#include <QAction>
 #include <QApplication>
+#include <QDockWidget>
 #include <QLabel>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTreeView>
 
 using namespace corvane;
@@ -28,6 +32,9 @@ private Q_SLOTS:
     void countHeader_clicked_sortsByNumber();
     void darkPalette_isFollowed();
     void totals_nameDamage();
+    void paused_viewsStandStillAndTheBarSaysWhatCame();
+    void layout_isRememberedByTheSettings();
+    void layout_ofRandomBytes_startsWithTheDefault();
 };
 
 namespace {
@@ -44,7 +51,7 @@ public:
                   .address;
         options.speed = speed;
         session.load(options);
-        window = std::make_unique<MainWindow>(session);
+        window = std::make_unique<MainWindow>(session, settings);
         window->show();
         QSignalSpy finished(&session, &Session::finished);
         session.start(options);
@@ -73,6 +80,14 @@ public:
         return lines;
     }
 
+    QAction *action(const QString &text) const
+    {
+        for (QAction *found : window->findChildren<QAction *>())
+            if (found->text() == text)
+                return found;
+        return nullptr;
+    }
+
     bool says(const QString &text) const
     {
         for (const QLabel *label : window->findChildren<QLabel *>())
@@ -83,6 +98,8 @@ public:
 
     Options options;
     Session session;
+    QTemporaryDir folder;
+    QSettings settings{folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
     std::unique_ptr<MainWindow> window;
 };
 
@@ -91,7 +108,9 @@ public:
 void tst_mainwindow::withoutSource_saysHowToOpenOne()
 {
     Session session;
-    const MainWindow window(session);
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    const MainWindow window(session, settings);
     const auto labels = window.findChildren<QLabel *>();
     const bool explained = std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
         return label->text().contains(QStringLiteral("No source is open"));
@@ -171,7 +190,50 @@ void tst_mainwindow::darkPalette_isFollowed()
 void tst_mainwindow::totals_nameDamage()
 {
     const Shown shown;
-    QTRY_VERIFY(shown.says(QStringLiteral("1 CRC errors")));
+    QTRY_VERIFY(shown.says(QStringLiteral("CRC errors: 1")));
+}
+
+void tst_mainwindow::paused_viewsStandStillAndTheBarSaysWhatCame()
+{
+    const Shown shown(10.0);
+    QTRY_VERIFY(shown.indexOf(QStringLiteral("MOTION")).isValid());
+    shown.choose(QStringLiteral("MOTION"));
+    auto *pause = shown.action(QStringLiteral("&Pause the Views"));
+    pause->trigger();
+    const QStringList before = shown.form();
+    QTRY_VERIFY(!shown.says(QStringLiteral("Paused, new: 0;")));
+    QVERIFY(shown.says(QStringLiteral("Paused, ")));
+    QCOMPARE(shown.form(), before);
+    pause->trigger();
+    QVERIFY(shown.form() != before);
+    QVERIFY(!shown.says(QStringLiteral("Paused")));
+}
+
+void tst_mainwindow::layout_isRememberedByTheSettings()
+{
+    const Shown shown;
+    shown.window->findChild<QDockWidget *>(QStringLiteral("form"))->close();
+    shown.window->resize(700, 510);
+    shown.window->close();
+    Session session;
+    QSettings settings(shown.settings.fileName(), QSettings::IniFormat);
+    MainWindow next(session, settings);
+    next.show();
+    QVERIFY(!next.findChild<QDockWidget *>(QStringLiteral("form"))->isVisible());
+    QVERIFY(next.findChild<QDockWidget *>(QStringLiteral("types"))->isVisible());
+    QCOMPARE(next.size(), QSize(700, 510));
+}
+
+void tst_mainwindow::layout_ofRandomBytes_startsWithTheDefault()
+{
+    Session session;
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    for (const char *key : {"window/geometry", "window/layout"})
+        settings.setValue(QLatin1String(key), QByteArray("\x00\xff not a layout", 15));
+    MainWindow window(session, settings);
+    window.show();
+    QVERIFY(window.findChild<QDockWidget *>(QStringLiteral("form"))->isVisible());
 }
 
 CORVANE_GUI_TEST_MAIN(tst_mainwindow)

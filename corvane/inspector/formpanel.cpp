@@ -1,0 +1,70 @@
+#include "formpanel.h"
+
+#include "descriptions.h"
+#include "latestmessages.h"
+#include "message.h"
+#include "messageinfo.h"
+#include "messagewidget.h"
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace corvane {
+
+FormPanel::FormPanel(const LatestMessages &latest, QWidget *parent)
+    : QWidget(parent)
+    , latest(latest)
+    , heading(new QLabel(this))
+    , description(new QLabel(this))
+    , form(new MessageWidget)
+{
+    QFont headingFont = heading->font();
+    headingFont.setPointSizeF(headingFont.pointSizeF() * 1.3);
+    headingFont.setBold(true);
+    heading->setFont(headingFont);
+    heading->setTextFormat(Qt::PlainText);
+    description->setTextFormat(Qt::PlainText);
+    description->setWordWrap(true);
+    form->setAccessibleName(tr("Fields of the chosen message type"));
+
+    auto *content = new QWidget;
+    auto *contentLayout = new QVBoxLayout(content);
+    contentLayout->addWidget(form);
+    contentLayout->addStretch(1); // a short form stays at the top instead of spreading
+    auto *formArea = new QScrollArea(this);
+    formArea->setWidgetResizable(true);
+    formArea->setFrameShape(QFrame::NoFrame);
+    formArea->setWidget(content);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(heading);
+    layout->addWidget(description);
+    layout->addWidget(formArea, 1);
+    connect(&latest, &MessageSource::newMessage, form, &MessageWidget::processMessage);
+}
+
+void FormPanel::showType(const MessageInfo *type)
+{
+    if (type == nullptr) {
+        setContent({}, {}, nullptr);
+        return;
+    }
+    setContent(type->getName(), type->getData()->description, type);
+    if (const Message *message = latest.get(type))
+        form->processMessage(message);
+}
+
+void FormPanel::showText(const QString &title, const QString &text)
+{
+    setContent(title, text, nullptr);
+}
+
+void FormPanel::setContent(const QString &title, const QString &text, const MessageInfo *type)
+{
+    heading->setText(title);
+    description->setText(text);
+    form->setMessageInfo(type);
+}
+
+} // namespace corvane
