@@ -1,0 +1,51 @@
+#include "messagetreefilter.h"
+
+#include "fieldinfo.h"
+#include "memleaktracer.h"
+#include "message.h"
+#include "messageinfo.h"
+
+MessageTreeFilter::MessageTreeFilter(QObject *parent)
+    : QObject(parent)
+{
+    MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("MessageTreeFilter"));
+}
+
+MessageTreeFilter::~MessageTreeFilter()
+{
+    MemLeakTracer::getInstance()->doDeallocateObject(QStringLiteral("MessageTreeFilter"));
+}
+
+QString MessageTreeFilter::getSearchString() const
+{
+    return searchString;
+}
+
+void MessageTreeFilter::setSearchString(QString searchString)
+{
+    if (searchString == this->searchString)
+        return;
+    this->searchString = std::move(searchString);
+    Q_EMIT changed();
+}
+
+bool MessageTreeFilter::isInFilter(const Message *message)
+{
+    if (searchString.isEmpty())
+        return true;
+    for (const FieldInfo *field : message->getInfo()->getFieldInfos())
+        for (unsigned int i = field->getNumberOfValues(message); i > 0; --i)
+            if (field->getValueText(message, i - 1, true) == searchString)
+                return true;
+    return false;
+}
+
+bool MessageTreeFilter::isLoadedFor(const MessageInfo *messageInfo)
+{
+    if (searchString.isEmpty())
+        return false;
+    for (const FieldInfo *field : messageInfo->getFieldInfos())
+        if (field->isSymbolicRepresentation(searchString))
+            return true;
+    return false;
+}
