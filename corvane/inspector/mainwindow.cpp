@@ -4,6 +4,7 @@
 #include "latestmessages.h"
 #include "messageinfo.h"
 #include "messagestatistics.h"
+#include "messagetreepanel.h"
 #include "messagetypemodel.h"
 #include "session.h"
 
@@ -63,6 +64,7 @@ void MainWindow::createTypeView()
     sortedTypes->setSortRole(MessageTypeModel::sortRole);
     sortedTypes->setSortCaseSensitivity(Qt::CaseInsensitive);
     typeView = new QTreeView(this);
+    typeView->setObjectName(QStringLiteral("typeView"));
     typeView->setAccessibleName(tr("Message types"));
     typeView->setModel(sortedTypes);
     typeView->setRootIsDecorated(false);
@@ -90,6 +92,9 @@ void MainWindow::createMenus()
 
 void MainWindow::createPanels()
 {
+    tree = new MessageTreePanel(*latest, *session.getReception().getFormat());
+    menuBar()->addMenu(tree->getMenu());
+    setCentralWidget(tree);
     form = new FormPanel(*latest);
     addPanel(typeView, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
     addPanel(form, QStringLiteral("form"), tr("Form"), Qt::RightDockWidgetArea);
@@ -113,12 +118,14 @@ void MainWindow::restoreLayout()
     // Qt refuses what it did not write itself, and leaves the window as it is then.
     restoreGeometry(settings.value(geometryKey()).toByteArray());
     restoreState(settings.value(layoutKey()).toByteArray());
+    tree->restoreSettings(settings);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     settings.setValue(geometryKey(), saveGeometry());
     settings.setValue(layoutKey(), saveState());
+    tree->saveSettings(settings);
     QMainWindow::closeEvent(event);
 }
 
@@ -137,6 +144,7 @@ void MainWindow::connectAll()
     connect(latest, &LatestMessages::typeSeen, this, &MainWindow::chooseFirstType);
     connect(typeView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &MainWindow::showChosenType);
+    connect(tree, &MessageTreePanel::typeChosen, this, &MainWindow::chooseType);
     connect(pauseAction, &QAction::toggled, this, &MainWindow::setPaused);
     connect(&countsTimer, &QTimer::timeout, this, &MainWindow::refreshCounts);
     countsTimer.start(countsIntervalMs);
@@ -171,6 +179,15 @@ void MainWindow::showChosenType()
     else
         form->showText(chosen != nullptr ? chosen->getMessageName() : QString(),
                        getPlaceholderText());
+}
+
+void MainWindow::chooseType(const MessageInfo *type)
+{
+    for (int row = 0; row < sortedTypes->rowCount(); ++row) {
+        const QModelIndex index = sortedTypes->index(row, MessageTypeModel::NameColumn);
+        if (types->getStatistics(sortedTypes->mapToSource(index))->getMessageInfo() == type)
+            typeView->setCurrentIndex(index);
+    }
 }
 
 QString MainWindow::getPlaceholderText() const

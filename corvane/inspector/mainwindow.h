@@ -17,6 +17,7 @@ namespace corvane {
 
 class FormPanel;
 class LatestMessages;
+class MessageTreePanel;
 class MessageTypeModel;
 class Session;
 
@@ -47,6 +48,7 @@ private:
     void restoreLayout();
     void chooseFirstType();
     void showChosenType();
+    void chooseType(const MessageInfo *type);
     void setPaused(bool paused);
     void refreshCounts();
     QString getPlaceholderText() const;
@@ -57,6 +59,7 @@ private:
     MessageTypeModel *types; ///< Owned as a child.
     QSortFilterProxyModel *sortedTypes; ///< Owned as a child.
     QTreeView *typeView = nullptr; ///< Owned as a child.
+    MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
     QAction *pauseAction = nullptr; ///< Owned as a child.

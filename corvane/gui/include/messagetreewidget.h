@@ -103,7 +103,8 @@ public:
     void loadExpansionState(QSettings &settings);
 
     // What people expanded (true) and collapsed (false), in any tree of the process. Public so that
-    // an owner that expands rows for its own purposes can put them back.
+    // an owner that expands rows for its own purposes can put them back. An owner that removes a
+    // format removes its types and fields here as well.
     static QHash<const MessageInfo *, bool>
         sMessageInfoExpandedCollapsedMap; // NOLINT(readability-identifier-naming)
     static QHash<const FieldInfo *, bool>

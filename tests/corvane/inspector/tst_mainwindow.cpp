@@ -59,7 +59,7 @@ public:
             finished.wait();
     }
 
-    QTreeView *types() const { return window->findChild<QTreeView *>(); }
+    QTreeView *types() const { return window->findChild<QTreeView *>(QStringLiteral("typeView")); }
 
     QModelIndex indexOf(const QString &name) const
     {
