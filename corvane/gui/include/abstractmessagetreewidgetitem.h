@@ -62,8 +62,8 @@ public:
     MessageTreeFilter *getFilter();
 
 private:
-    void setColumnText(MessageTreeWidget::ColumnType type, const QString &text);
-    bool mustBeExpanded();
+    void setColumnText(MessageTreeWidget::ColumnType type,
+                       QString (AbstractMessageTreeWidgetItem::*text)());
 
     MessageTreeWidget *messageTreeWidget; ///< Not owned.
     InitialExpansionPolicy initialExpansionPolicy = CollapseInitially;

@@ -25,7 +25,7 @@ public:
     QString getSearchString() const;
     /**
      * Whether the interpreted text of one of the message's values is the search text, case and all.
-     * With an empty search text every message is in. \a message is not null.
+     * With an empty search text every message is in; with any other text null is not.
      */
     bool isInFilter(const Message *message);
     /**

@@ -104,26 +104,26 @@ void AbstractMessageTreeWidgetItem::setNameText()
 
 void AbstractMessageTreeWidgetItem::setTypeText()
 {
-    setColumnText(MessageTreeWidget::Type, getTypeText());
+    setColumnText(MessageTreeWidget::Type, &AbstractMessageTreeWidgetItem::getTypeText);
 }
 
 void AbstractMessageTreeWidgetItem::setValueText()
 {
-    setColumnText(MessageTreeWidget::Value, getValueText());
+    setColumnText(MessageTreeWidget::Value, &AbstractMessageTreeWidgetItem::getValueText);
 }
 
 void AbstractMessageTreeWidgetItem::setRawValueText()
 {
-    setColumnText(MessageTreeWidget::RawValue, getRawValueText());
+    setColumnText(MessageTreeWidget::RawValue, &AbstractMessageTreeWidgetItem::getRawValueText);
 }
 
 void AbstractMessageTreeWidgetItem::setColumnText(MessageTreeWidget::ColumnType type,
-                                                  const QString &text)
+                                                  QString (AbstractMessageTreeWidgetItem::*text)())
 {
     MessageTreeWidget *tree = getMessageTreeWidget();
     const int column = tree != nullptr ? tree->getColumnIndex(type) : -1;
     if (column >= 0)
-        SteadyTreeWidget::setItemText(this, column, text);
+        SteadyTreeWidget::setItemText(this, column, (this->*text)());
 }
 
 void AbstractMessageTreeWidgetItem::setAllTexts()
@@ -165,13 +165,9 @@ void AbstractMessageTreeWidgetItem::configureInTreeWidget()
         if (auto *row = dynamic_cast<AbstractMessageTreeWidgetItem *>(child(i)))
             row->configureInTreeWidget();
     setAllTexts();
-    SteadyTreeWidget::setItemExpanded(this, mustBeExpanded());
-}
-
-bool AbstractMessageTreeWidgetItem::mustBeExpanded()
-{
-    if (initialExpansionPolicy != AskTreeWidget)
-        return initialExpansionPolicy == ExpandInitially;
     MessageTreeWidget *tree = getMessageTreeWidget();
-    return tree != nullptr && tree->mustInitiallyBeExpanded(this);
+    if (initialExpansionPolicy != AskTreeWidget)
+        SteadyTreeWidget::setItemExpanded(this, initialExpansionPolicy == ExpandInitially);
+    else if (tree != nullptr)
+        SteadyTreeWidget::setItemExpanded(this, tree->mustInitiallyBeExpanded(this));
 }

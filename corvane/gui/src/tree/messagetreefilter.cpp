@@ -33,6 +33,9 @@ bool MessageTreeFilter::isInFilter(const Message *message)
 {
     if (searchString.isEmpty())
         return true;
+    // An element may have come without content.
+    if (message == nullptr)
+        return false;
     for (const FieldInfo *field : message->getInfo()->getFieldInfos())
         for (unsigned int i = field->getNumberOfValues(message); i > 0; --i)
             if (field->getValueText(message, i - 1, true) == searchString)

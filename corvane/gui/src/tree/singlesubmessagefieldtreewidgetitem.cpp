@@ -3,6 +3,21 @@
 #include "memleaktracer.h"
 #include "message.h"
 
+namespace {
+
+/** Embedded messages are gone with the message that they were part of. */
+void forgetMessagesBelow(QTreeWidgetItem *item)
+{
+    for (int i = 0; i < item->childCount(); ++i) {
+        QTreeWidgetItem *child = item->child(i);
+        if (auto *row = dynamic_cast<SingleSubMessageFieldTreeWidgetItem *>(child))
+            row->setDisplayedMessage(nullptr);
+        forgetMessagesBelow(child);
+    }
+}
+
+} // namespace
+
 SingleSubMessageFieldTreeWidgetItem::SingleSubMessageFieldTreeWidgetItem(
     MessageTreeWidget *messageTreeWidget, unsigned int index)
     : AbstractMessageTreeWidgetItem(messageTreeWidget)
@@ -111,6 +126,10 @@ void SingleSubMessageFieldTreeWidgetItem::processMessage(const Message *message)
     } else if (count > index) {
         displayMessage(field->getValue(message, index).getSubMessage());
         setChildItemsHidden(false);
+    } else {
+        // All texts stay, but a filter must not ask for what is not there any more.
+        setDisplayedMessage(nullptr);
+        forgetMessagesBelow(this);
     }
 }
 

@@ -46,22 +46,22 @@ void TestMessageTreeProcess::mistake_endsTheProcess_data()
     const QString widget = "corvane/gui/src/tree/messagetreewidget";
     const QString negative = "ColumnType enum elements should have non-negative values";
     QTest::newRow("addColumn -1") << "addnegative"
-                                  << QStringList{"MessageTreeWidget", "addColumn", widget, "189",
-                                                 negative};
+                                  << QStringList{"MessageTreeWidget", "addColumn", widget,
+                                                 "Ln: 189", negative};
     QTest::newRow("addColumn 1000")
         << "addbeyond"
-        << QStringList{"MessageTreeWidget", "addColumn", widget, "190",
+        << QStringList{"MessageTreeWidget", "addColumn", widget, "Ln: 190",
                        "ColumnType enum elements should have values < 1000"};
     QTest::newRow("hasColumn") << "hasnegative"
-                               << QStringList{"MessageTreeWidget", "hasColumn", widget, "138",
+                               << QStringList{"MessageTreeWidget", "hasColumn", widget, "Ln: 138",
                                               negative};
     QTest::newRow("getColumnIndex")
         << "indexnegative"
-        << QStringList{"MessageTreeWidget", "getColumnIndex", widget, "144", negative};
+        << QStringList{"MessageTreeWidget", "getColumnIndex", widget, "Ln: 144", negative};
     QTest::newRow("string row")
         << "nostring"
         << QStringList{"StringFieldTreeWidgetItem", "setFieldInfo",
-                       "corvane/gui/src/tree/stringfieldtreewidgetitem", "43",
+                       "corvane/gui/src/tree/stringfieldtreewidgetitem", "Ln:  43",
                        "StringFieldTreeWidgetItem::setFieldInfo: given field is not a repeated "
                        "char field."};
     QTest::newRow("sub-message row")

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void cleanup();
     void metaObjects();
     void classTree();
+    void treeOfAnotherKind_leavesWhatNeedsTheOwn();
     void row_withoutType();
     void row_texts_beforeTheFirstMessage();
     void row_texts_ofAMessage();
@@ -54,6 +55,7 @@ private Q_SLOTS:
     void setMessageInfo_sameType_keepsTheRows();
     void configure_rebuildsAndShowsTheMessageAgain();
     void singleValue_index();
+    void texts_ofMissingColumns_areNotMade();
     void singleValue_nullMessage_clears();
     void stringRow();
     void subMessageRow_indexAndNull();
@@ -62,6 +64,8 @@ private Q_SLOTS:
     void need_isDeclaredWhileTyped();
     void filter_loadedForTheType();
     void filter_notLoaded();
+    void filter_elementWithoutContent();
+    void filter_afterTheMessageIsGone();
     void filter_ofScalars_showsAll();
     void filter_replaced_leavesNoConnection();
     void filter_reachesNewRows();
@@ -171,6 +175,21 @@ void TestMessageTreeRows::classTree()
     QCOMPARE(RepeatedFieldTreeWidgetItem(&tree).getInitialExpansionPolicy(),
              AbstractMessageTreeWidgetItem::AskTreeWidget);
     QVERIFY(row.isInFilter());
+}
+
+void TestMessageTreeRows::treeOfAnotherKind_leavesWhatNeedsTheOwn()
+{
+    const TestFormat format("Demo", types);
+    QTreeWidget tree;
+    auto *row = new MessageTreeWidgetItem(nullptr, format.type("Attitude"));
+    tree.addTopLevelItem(row);
+    row->setExpanded(true);
+    row->configureInTreeWidget();
+    row->processMessage(format.message("Attitude{roll: 1}"));
+    QVERIFY(row->isExpanded()); // nobody to ask
+    QCOMPARE(row->childCount(), 1);
+    QCOMPARE(row->text(0), QString());
+    QVERIFY(row->getMessageTreeWidget() == nullptr);
 }
 
 void TestMessageTreeRows::row_withoutType()
@@ -565,6 +584,34 @@ void TestMessageTreeRows::configure_rebuildsAndShowsTheMessageAgain()
     QCOMPARE(message->getReferenceCount(), 1);
 }
 
+void TestMessageTreeRows::texts_ofMissingColumns_areNotMade()
+{
+    struct Row : SingleValueFieldTreeWidgetItem
+    {
+        explicit Row(MessageTreeWidget *tree)
+            : AbstractMessageTreeWidgetItem(tree)
+            , SingleValueFieldTreeWidgetItem(tree, 0)
+        {
+        }
+
+        QString getRawValueText() override
+        {
+            ++made;
+            return {};
+        }
+
+        int made = 0;
+    };
+
+    MessageTreeWidget tree;
+    Row row(&tree);
+    row.setRawValueText();
+    QCOMPARE(row.made, 0);
+    tree.addColumn(MessageTreeWidget::RawValue, false);
+    row.setRawValueText();
+    QCOMPARE(row.made, 1);
+}
+
 void TestMessageTreeRows::singleValue_index()
 {
     const TestFormat format("Demo", "A\n  words uint16[]\n    low bits 0..7\n");
@@ -778,6 +825,39 @@ void TestMessageTreeRows::filter_notLoaded()
     filter.setSearchString("nothing of the kind");
     QVERIFY(!sats->child(0)->isHidden());
     QVERIFY(!sats->child(1)->isHidden());
+}
+
+void TestMessageTreeRows::filter_elementWithoutContent()
+{
+    const TestFormat format("Demo", types);
+    Shown shown(format, {"Position"});
+    MessageTreeFilter filter;
+    filter.setSearchString("Good");
+    shown.row()->setFilter(&filter);
+    shown.after("Position{sats: [{state: Good}, invalid]}");
+    QTreeWidgetItem *sats = shown.row()->child(5);
+    QVERIFY(!sats->child(0)->isHidden());
+    QVERIFY(sats->child(1)->isHidden());
+}
+
+void TestMessageTreeRows::filter_afterTheMessageIsGone()
+{
+    const TestFormat format("Demo", "A\n b B\nB part\n list C[]\nC part\n x uint8 {P=1, Q=2}\n");
+    Shown shown(format, {"A"});
+    MessageTreeFilter filter;
+    shown.row()->setFilter(&filter);
+    const QString before = shown.after("A{b: {list: [{x: P}, {x: Q}]}}");
+    // The second message has no b, so its rows stay, but what they showed is deleted.
+    QCOMPARE(shown.after("A{}"), before);
+    auto *b = dynamic_cast<MessageTreeWidgetItem *>(shown.row()->child(0));
+    auto *element = dynamic_cast<MessageTreeWidgetItem *>(b->child(0)->child(0));
+    QCOMPARE(b->getDisplayedMessage(), nullptr);
+    QCOMPARE(element->getDisplayedMessage(), nullptr);
+
+    filter.setSearchString("P");
+    QVERIFY(element->isHidden());
+    filter.setSearchString("");
+    QCOMPARE(printed(shown.tree), before);
 }
 
 void TestMessageTreeRows::filter_ofScalars_showsAll()

@@ -1,0 +1,77 @@
+#include "pathexpressionlineedit.h"
+
+#include "memleaktracer.h"
+
+PathExpressionLineEdit::PathExpressionLineEdit(PathExpression *pathExpression,
+                                               PathExpression::Parts parts,
+                                               QWidget *parent)
+    : QLineEdit(parent)
+{
+    MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("PathExpressionLineEdit"));
+    setPathExpression(pathExpression);
+    setParts(parts);
+    connect(this, SIGNAL(textEdited(QString)), SLOT(processTextEdited()));
+}
+
+PathExpressionLineEdit::~PathExpressionLineEdit()
+{
+    MemLeakTracer::getInstance()->doDeallocateObject(QStringLiteral("PathExpressionLineEdit"));
+}
+
+void PathExpressionLineEdit::setPathExpression(PathExpression *pathExpression)
+{
+    if (this->pathExpression != nullptr) {
+        QObject::disconnect(this->pathExpression, nullptr, this, nullptr);
+        QObject::disconnect(this, nullptr, this->pathExpression, nullptr);
+    }
+    this->pathExpression = pathExpression;
+    if (pathExpression != nullptr) {
+        connect(pathExpression, SIGNAL(partsChanged(PathExpression::Parts)),
+                SLOT(processPartsChanged(PathExpression::Parts)));
+        // Once more for each expression, as hosts know it.
+        connect(this, SIGNAL(returnPressed()), SLOT(processReturnPressed()));
+    }
+    updateText();
+}
+
+PathExpression *PathExpressionLineEdit::getPathExpression()
+{
+    return pathExpression;
+}
+
+void PathExpressionLineEdit::setParts(PathExpression::Parts parts)
+{
+    this->parts = parts;
+    updateText();
+}
+
+PathExpression::Parts PathExpressionLineEdit::getParts() const
+{
+    return parts;
+}
+
+void PathExpressionLineEdit::processPartsChanged(PathExpression::Parts parts)
+{
+    if ((this->parts & parts) && !hasFocus())
+        updateText();
+}
+
+void PathExpressionLineEdit::processReturnPressed()
+{
+    if (pathExpression == nullptr)
+        return;
+    pathExpression->setString(text(), parts);
+    pathExpression->completeEditing();
+}
+
+void PathExpressionLineEdit::processTextEdited()
+{
+    if (pathExpression != nullptr)
+        pathExpression->setStringPrefix(text(), parts);
+}
+
+void PathExpressionLineEdit::updateText()
+{
+    setText(pathExpression != nullptr ? pathExpression->getString(parts)
+                                      : tr("No path expression set!"));
+}
