@@ -5,7 +5,11 @@
 #include "formatinfo.h"
 #include "messageinfo.h"
 
+#include <QSet>
+
+#include <algorithm>
 #include <array>
+#include <vector>
 
 namespace corvane {
 
@@ -14,18 +18,32 @@ namespace {
 constexpr std::array allParts
     = {PathExpression::FormatPart, PathExpression::MessagePart, PathExpression::FieldPart};
 
+constexpr QLatin1Char dot('.');
+constexpr QLatin1Char star('*');
+constexpr QLatin1Char questionMark('?');
+constexpr QLatin1Char quote('"');
+constexpr QLatin1Char backslash('\\');
+
+/** The texts of an expression that matches nothing: empty ones, which are not null. */
+std::array<QString, 3> textsOfNothing()
+{
+    const QString empty = QStringLiteral("");
+    return {empty, empty, empty};
+}
+
 /** Quotes a name that would not be read back as itself. */
 QString quotedName(const QString &name)
 {
-    const bool plain = !name.isEmpty() && !name.contains(QLatin1Char('.'))
-                       && !name.contains(QLatin1Char('*')) && !name.contains(QLatin1Char('"'))
-                       && !name.contains(QLatin1Char('\\'));
-    if (plain)
+    const bool needsQuotes
+        = name.isEmpty() || std::any_of(name.begin(), name.end(), [](QChar c) {
+              return c == dot || c == star || c == questionMark || c == quote || c == backslash;
+          });
+    if (!needsQuotes)
         return name;
     QString escaped = name;
-    escaped.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
-    escaped.replace(QLatin1Char('"'), QStringLiteral("\\\""));
-    return QLatin1Char('"') + escaped + QLatin1Char('"');
+    escaped.replace(backslash, QStringLiteral("\\\\"));
+    escaped.replace(quote, QStringLiteral("\\\""));
+    return quote + escaped + quote;
 }
 
 /** Cuts \a text at its dots outside quotes, the last piece taking all that is left. */
@@ -36,11 +54,11 @@ QStringList split(const QString &text, qsizetype maximumPieces)
     bool quoted = false;
     for (qsizetype i = 0; i < text.size() && pieces.size() + 1 < maximumPieces; ++i) {
         const QChar c = text.at(i);
-        if (quoted && c == QLatin1Char('\\'))
+        if (quoted && c == backslash)
             ++i;
-        if (c == QLatin1Char('"'))
+        if (c == quote)
             quoted = !quoted;
-        if (quoted || c != QLatin1Char('.'))
+        if (quoted || c != dot)
             continue;
         pieces.append(text.mid(start, i - start));
         start = i + 1;
@@ -53,9 +71,183 @@ QString fieldText(const FieldInfo *field)
 {
     QString text = quotedName(field->getData()->name);
     while ((field = field->getParentFieldInfo()) != nullptr)
-        text = quotedName(field->getData()->name) + QLatin1Char('.') + text;
+        text = quotedName(field->getData()->name) + dot + text;
     return text;
 }
+
+/** As people sort: digits by their number, letters whatever their case; then by code units. */
+bool isNaturallyLess(const QString &left, const QString &right)
+{
+    qsizetype i = 0;
+    qsizetype j = 0;
+    const auto digitsAt = [](const QString &text, qsizetype &position) {
+        while (position < text.size() && text.at(position) == QLatin1Char('0'))
+            ++position;
+        const qsizetype start = position;
+        while (position < text.size() && text.at(position).isDigit())
+            ++position;
+        return QStringView(text).mid(start, position - start);
+    };
+    while (i < left.size() && j < right.size()) {
+        if (left.at(i).isDigit() && right.at(j).isDigit()) {
+            const QStringView leftDigits = digitsAt(left, i);
+            const QStringView rightDigits = digitsAt(right, j);
+            if (leftDigits.size() != rightDigits.size())
+                return leftDigits.size() < rightDigits.size();
+            if (const int order = leftDigits.compare(rightDigits); order != 0)
+                return order < 0;
+            continue;
+        }
+        const QChar l = left.at(i++).toCaseFolded();
+        const QChar r = right.at(j++).toCaseFolded();
+        if (l != r)
+            return l < r;
+    }
+    if (left.size() - i != right.size() - j)
+        return left.size() - i < right.size() - j;
+    return left < right;
+}
+
+/** What one name has to look like. */
+class NamePattern
+{
+public:
+    void addLiteral(QChar character)
+    {
+        literal.append(character);
+        tokens.push_back({Token::Literal, character});
+    }
+
+    void addWildCard(QChar character)
+    {
+        isLiteral = false;
+        tokens.push_back({character == star ? Token::AnyText : Token::AnyCharacter, {}});
+    }
+
+    bool matches(const QString &name) const
+    {
+        return isLiteral ? name == literal : matchesWildCards(name);
+    }
+
+    /** The only name that matches, or null where there may be several. */
+    const QString *getOnlyName() const { return isLiteral ? &literal : nullptr; }
+
+private:
+    struct Token
+    {
+        enum Kind {
+            Literal,
+            AnyCharacter,
+            AnyText
+        };
+
+        Kind kind;
+        QChar character;
+    };
+
+    // Goes back to the last star only, so the time is bounded by the product of the lengths.
+    bool matchesWildCards(const QString &name) const
+    {
+        size_t token = 0;
+        qsizetype position = 0;
+        size_t tokenBehindStar = 0;
+        qsizetype starEnd = -1;
+        while (position < name.size()) {
+            if (token < tokens.size() && tokens[token].kind == Token::AnyText) {
+                tokenBehindStar = ++token;
+                starEnd = position;
+            } else if (token < tokens.size()
+                       && (tokens[token].kind == Token::AnyCharacter
+                           || tokens[token].character == name.at(position)))
+            {
+                ++token;
+                ++position;
+            } else if (starEnd >= 0) {
+                token = tokenBehindStar;
+                position = ++starEnd;
+            } else {
+                return false;
+            }
+        }
+        while (token < tokens.size() && tokens[token].kind == Token::AnyText)
+            ++token;
+        return token == tokens.size();
+    }
+
+    std::vector<Token> tokens;
+    QString literal;
+    bool isLiteral = true;
+};
+
+/** What the names of one part of an expression have to look like. */
+class PartPattern
+{
+public:
+    PartPattern() = default;
+
+    /** \a prefix: whether the last name is still being typed. */
+    PartPattern(const QString &text, bool prefix, bool severalNames)
+        : everything(text == star)
+        , prefix(prefix)
+        , names(1)
+    {
+        bool quoted = false;
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            const QChar c = text.at(i);
+            if (quoted && c == backslash && i + 1 < text.size())
+                names.back().addLiteral(text.at(++i));
+            else if (c == quote)
+                quoted = !quoted;
+            else if (quoted)
+                names.back().addLiteral(c);
+            else if (c == dot && severalNames)
+                names.emplace_back();
+            else if (c == star || c == questionMark)
+                names.back().addWildCard(c);
+            else
+                names.back().addLiteral(c);
+        }
+        if (prefix)
+            names.back().addWildCard(star);
+        // A part without any text names nothing, not what has an empty name.
+        nothing = text.isEmpty() && !prefix;
+    }
+
+    bool isEverything() const { return everything; }
+
+    const QString *getOnlyName() const
+    {
+        return everything || nothing ? nullptr : names.front().getOnlyName();
+    }
+
+    bool matches(const QString &name) const
+    {
+        return everything || (!nothing && names.front().matches(name));
+    }
+
+    /** Whether the names of \a field and of the fields that it lies in match, in their order. */
+    bool matches(const FieldInfo *field) const
+    {
+        if (everything)
+            return true;
+        size_t depth = 1;
+        for (const FieldInfo *f = field->getParentFieldInfo(); f != nullptr;
+             f = f->getParentFieldInfo())
+            ++depth;
+        if (nothing || depth < names.size() || (depth > names.size() && !prefix))
+            return false;
+        for (; field != nullptr; field = field->getParentFieldInfo())
+            if (depth-- <= names.size() && !names[depth].matches(field->getData()->name))
+                return false;
+        return true;
+    }
+
+private:
+    bool everything = true;
+    bool nothing = false;
+    bool prefix = false;
+    std::vector<NamePattern> names; ///< Those of a sub-field and of what it lies in.
+};
 
 } // namespace
 
@@ -63,31 +255,44 @@ QString fieldText(const FieldInfo *field)
 class PathExpressionData
 {
 public:
-    bool matches(PathExpression::Part part, const QString &name) const
-    {
-        const QString &text = texts.at(indexOf(part));
-        if (text == QLatin1String("*"))
-            return true;
-        return part == prefixPart ? name.startsWith(text) : name == text;
-    }
+    using Texts = std::array<QString, 3>;
 
     static size_t indexOf(PathExpression::Part part)
     {
         return part == PathExpression::FormatPart ? 0 : part == PathExpression::MessagePart ? 1 : 2;
     }
 
+    /** Null texts stand for parts that have not been typed yet; they match everything. */
+    void set(const Texts &newTexts, PathExpression::Parts newPrefixPart)
+    {
+        texts = newTexts;
+        prefixPart = newPrefixPart;
+        for (const PathExpression::Part part : allParts) {
+            const QString &text = texts.at(indexOf(part));
+            patterns.at(indexOf(part))
+                = PartPattern(text.isNull() ? QString(star) : text, prefixPart == part,
+                              part == PathExpression::FieldPart);
+        }
+    }
+
+    bool matchesEverything(PathExpression::Part part) const
+    {
+        return patterns.at(indexOf(part)).isEverything();
+    }
+
     template <typename Visitor>
     void visitMessages(Visitor visit) const
     {
         for (const FormatInfo *format : Catalogue::getInstance()->getFormats()) {
-            if (!matches(PathExpression::FormatPart, quotedName(format->getData()->name)))
+            if (!patterns[0].matches(format->getData()->name))
                 continue;
-            for (const auto &message : format->getData()->messages) {
-                if (!message->isMain() && !considerSubMessages)
-                    continue;
-                if (matches(PathExpression::MessagePart, quotedName(message->getData()->name)))
-                    visit(format, message.get());
+            if (const QString *name = patterns[1].getOnlyName()) {
+                visitIfWanted(format, format->getData()->messagesByName.value(*name), visit);
+                continue;
             }
+            for (const auto &message : format->getData()->messages)
+                if (patterns[1].matches(message->getData()->name))
+                    visitIfWanted(format, message.get(), visit);
         }
     }
 
@@ -96,14 +301,24 @@ public:
     {
         visitMessages([&](const FormatInfo *format, const MessageInfo *message) {
             for (const FieldInfo *field : message->getData()->fields)
-                if (matches(PathExpression::FieldPart, fieldText(field)))
+                if (patterns[2].matches(field))
                     visit(format, message, field);
         });
     }
 
-    std::array<QString, 3> texts{QStringLiteral("*"), QStringLiteral("*"), QStringLiteral("*")};
+    Texts texts{QString(star), QString(star), QString(star)};
     PathExpression::Parts prefixPart;
     bool considerSubMessages = false;
+
+private:
+    template <typename Visitor>
+    void visitIfWanted(const FormatInfo *format, const MessageInfo *message, Visitor visit) const
+    {
+        if (message != nullptr && (message->isMain() || considerSubMessages))
+            visit(format, message);
+    }
+
+    std::array<PartPattern, 3> patterns;
 };
 
 } // namespace corvane
@@ -127,12 +342,12 @@ QString PathExpression::getString(PathExpression::Parts parts) const
 {
     QStringList texts;
     for (const Part part : corvane::allParts)
-        if (parts.testFlag(part))
+        if (parts.testFlag(part) && !d->texts.at(PathExpressionData::indexOf(part)).isNull())
             texts.append(d->texts.at(PathExpressionData::indexOf(part)));
-    return texts.join(QLatin1Char('.'));
+    return texts.join(corvane::dot);
 }
 
-void PathExpression::setTexts(const QString &text, Parts parts, const QString &missing, bool prefix)
+void PathExpression::setTexts(const QString &text, Parts parts, bool prefix)
 {
     QList<Part> chosen;
     for (const Part part : corvane::allParts)
@@ -143,8 +358,15 @@ void PathExpression::setTexts(const QString &text, Parts parts, const QString &m
 
     const QStringList pieces = corvane::split(text, chosen.size());
     auto texts = d->texts;
-    for (qsizetype i = 0; i < chosen.size(); ++i)
-        texts.at(PathExpressionData::indexOf(chosen.at(i))) = pieces.value(i, missing);
+    for (qsizetype i = 0; i < chosen.size(); ++i) {
+        // What is not there yet is typed later, or else matches everything. A null text stands for
+        // the former, so an empty piece must not be one.
+        QString &part = texts.at(PathExpressionData::indexOf(chosen.at(i)));
+        if (i < pieces.size())
+            part = pieces.at(i).isEmpty() ? QStringLiteral("") : pieces.at(i);
+        else
+            part = prefix ? QString() : QString(corvane::star);
+    }
     apply(texts, prefix ? Parts(chosen.at(pieces.size() - 1)) : Parts());
 }
 
@@ -153,38 +375,43 @@ void PathExpression::apply(const std::array<QString, 3> &texts, Parts prefixPart
     Parts changed;
     for (const Part part : corvane::allParts) {
         const size_t index = PathExpressionData::indexOf(part);
-        if (texts.at(index) != d->texts.at(index))
+        if (texts.at(index) != d->texts.at(index)
+            || texts.at(index).isNull() != d->texts.at(index).isNull())
             changed |= part;
     }
     const bool prefixChanged = prefixPart != d->prefixPart;
-    d->texts = texts;
-    d->prefixPart = prefixPart;
+    if (!changed && !prefixChanged)
+        return;
+    d->set(texts, prefixPart);
     if (changed) {
         Q_EMIT partsChanged(changed);
         Q_EMIT expressionChanged(getString(AllParts));
     }
-    if (changed || prefixChanged)
-        Q_EMIT matchesMayHaveChanged();
+    Q_EMIT matchesMayHaveChanged();
 }
 
 void PathExpression::setString(QString text, PathExpression::Parts parts)
 {
-    setTexts(text, parts, QString(), false);
+    setTexts(text, parts, false);
 }
 
 void PathExpression::setString(QString text)
 {
-    setTexts(text, AllParts, QStringLiteral("*"), false);
+    setTexts(text, AllParts, false);
 }
 
 void PathExpression::setStringPrefix(QString prefix, PathExpression::Parts parts)
 {
-    setTexts(prefix, parts, QStringLiteral("*"), true);
+    setTexts(prefix, parts, true);
 }
 
 void PathExpression::completeEditing()
 {
-    apply(d->texts, {});
+    auto texts = d->texts;
+    for (QString &text : texts)
+        if (text.isNull())
+            text = corvane::star;
+    apply(texts, {});
 }
 
 void PathExpression::setWildCard(PathExpression::Parts parts)
@@ -192,15 +419,14 @@ void PathExpression::setWildCard(PathExpression::Parts parts)
     auto texts = d->texts;
     for (const Part part : corvane::allParts)
         if (parts.testFlag(part))
-            texts.at(PathExpressionData::indexOf(part)) = QStringLiteral("*");
-    apply(texts, {});
+            texts.at(PathExpressionData::indexOf(part)) = corvane::star;
+    apply(texts, d->prefixPart & ~parts);
 }
 
 bool PathExpression::isWildCard(PathExpression::Parts parts) const
 {
     for (const Part part : corvane::allParts)
-        if (parts.testFlag(part)
-            && d->texts.at(PathExpressionData::indexOf(part)) != QLatin1String("*"))
+        if (parts.testFlag(part) && !d->matchesEverything(part))
             return false;
     return true;
 }
@@ -217,7 +443,7 @@ QStringList PathExpression::getMatchingExpressionsStringList(PathExpression::Par
                   texts += corvane::quotedName(message->getData()->name);
               if (field != nullptr)
                   texts += corvane::fieldText(field);
-              result.append(texts.join(QLatin1Char('.')));
+              result.append(texts.join(corvane::dot));
           };
     if (parts.testFlag(FieldPart))
         d->visitFields(add);
@@ -225,7 +451,8 @@ QStringList PathExpression::getMatchingExpressionsStringList(PathExpression::Par
         d->visitMessages([&](const FormatInfo *format, const MessageInfo *message) {
             add(format, message, nullptr);
         });
-    result.removeDuplicates();
+    std::sort(result.begin(), result.end(), corvane::isNaturallyLess);
+    result.erase(std::unique(result.begin(), result.end()), result.end());
     return result;
 }
 
@@ -240,9 +467,14 @@ QList<const MessageInfo *> PathExpression::getMatchingMessageInfos() const
 QList<const FieldInfo *> PathExpression::getMatchingFieldInfos() const
 {
     QList<const FieldInfo *> result;
+    QSet<const FieldInfo *> shared;
     d->visitFields([&](const FormatInfo *, const MessageInfo *, const FieldInfo *field) {
-        if (!result.contains(field))
-            result.append(field);
+        const bool isShared = field->getData()->messageInfos.size() > 1;
+        if (isShared && shared.contains(field))
+            return;
+        if (isShared)
+            shared.insert(field);
+        result.append(field);
     });
     return result;
 }
@@ -250,17 +482,17 @@ QList<const FieldInfo *> PathExpression::getMatchingFieldInfos() const
 void PathExpression::setupToMatchUnique(const MessageInfo *messageInfo)
 {
     if (messageInfo == nullptr)
-        return apply({}, {});
+        return apply(corvane::textsOfNothing(), {});
     const auto &data = *messageInfo->getData();
     apply({corvane::quotedName(data.format->getData()->name), corvane::quotedName(data.name),
-           QStringLiteral("*")},
+           QString(corvane::star)},
           {});
 }
 
 void PathExpression::setupToMatchUnique(const FieldInfo *fieldInfo)
 {
     if (fieldInfo == nullptr)
-        return apply({}, {});
+        return apply(corvane::textsOfNothing(), {});
     const auto &data = *fieldInfo->getMessageInfos().constFirst()->getData();
     apply({corvane::quotedName(data.format->getData()->name), corvane::quotedName(data.name),
            corvane::fieldText(fieldInfo)},

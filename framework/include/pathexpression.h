@@ -21,8 +21,12 @@ class PathExpressionData;
 /**
  * An editable expression that selects message types and fields: "format.message.field".
  *
- * The text is made of parts that can be read and replaced on their own. A part "*" matches
- * everything. Any text is accepted; what names nothing matches nothing.
+ * The text is made of parts that can be read and replaced on their own. In each, "*" stands for any
+ * text and "?" for any one character; names that hold these, dots, quotes or backslashes are put in
+ * double quotes, inside which a backslash takes the next character as it is. A sub-field is named
+ * with the field that it lies in, "status.armed"; wildcards do not reach over such a dot, but a
+ * part that is "*" alone matches everything. Any text is accepted; what names nothing matches
+ * nothing.
  */
 class CORVANEFRAMEWORK_EXPORT PathExpression : public QObject
 {
@@ -45,11 +49,14 @@ public:
 
     /** The text of the chosen parts, joined by dots; empty for no parts. */
     QString getString(PathExpression::Parts parts) const;
-    /** Replaces the chosen parts; parts that \a text does not name become empty. */
+    /** Replaces the chosen parts; missing ones at the end match everything. */
     void setString(QString text, PathExpression::Parts parts);
     /** Replaces the whole expression; missing parts at the end match everything. */
     void setString(QString text);
-    /** Sets a text that is still being typed: its last part matches as a prefix. */
+    /**
+     * Sets a text that is still being typed: its last part matches as a prefix, and parts that it
+     * has not reached yet match everything and have no text.
+     */
     void setStringPrefix(QString prefix, PathExpression::Parts parts);
     /** Ends an edit: a prefix counts as a whole text from now on. */
     void completeEditing();
@@ -58,7 +65,10 @@ public:
     /** Whether all chosen parts match everything. */
     bool isWildCard(PathExpression::Parts parts) const;
 
-    /** The texts of the chosen parts of all that the expression matches, without duplicates. */
+    /**
+     * The texts of the chosen parts of all that the expression matches, without duplicates, sorted
+     * as people sort: "item9" before "item10".
+     */
     QStringList getMatchingExpressionsStringList(PathExpression::Parts parts) const;
     QList<const MessageInfo *> getMatchingMessageInfos() const;
     QList<const FieldInfo *> getMatchingFieldInfos() const;
@@ -79,7 +89,7 @@ Q_SIGNALS:
     void matchesMayHaveChanged();
 
 private:
-    void setTexts(const QString &text, Parts parts, const QString &missing, bool prefix);
+    void setTexts(const QString &text, Parts parts, bool prefix);
     void apply(const std::array<QString, 3> &texts, Parts prefixPart);
 
     std::unique_ptr<corvane::PathExpressionData> d;

@@ -62,6 +62,12 @@ private Q_SLOTS:
     void fields_matching_data();
     void fields_matching();
     void prefix_matchesUntilCompleted();
+    void prefix_isKeptAsTyped();
+    void prefix_ofSeveralParts_data();
+    void prefix_ofSeveralParts();
+    void options_areSortedAsPeopleSort();
+    void anyText_isAccepted();
+    void oddNames_leadBack();
     void subMessages_onlyWhenConsidered();
     void options_withoutDuplicates();
     void wildCards_ofParts();
@@ -138,7 +144,7 @@ void TestPathExpression::setString_ofParts_data()
     QTest::newRow("two parts") << int(format | message) << "X.Y"
                                << "X.Y.lat";
     QTest::newRow("two parts, one given") << int(message | field) << "X"
-                                          << "Demo.X.";
+                                          << "Demo.X.*";
     QTest::newRow("no parts") << 0 << "X"
                               << "Demo.Position.lat";
 }
@@ -166,6 +172,13 @@ void TestPathExpression::messages_matching_data()
     QTest::newRow("no prefix") << "Demo.Po" << QStringList();
     QTest::newRow("other case") << "demo.pose" << QStringList();
     QTest::newRow("unknown") << "X.Pose" << QStringList();
+    QTest::newRow("star in a name") << "Demo.*o*e" << QStringList({"Pose"});
+    QTest::newRow("star that finds nothing") << "Demo.Po*x" << QStringList();
+    QTest::newRow("any character") << "Demo.P?se" << QStringList({"Pose"});
+    QTest::newRow("too few characters") << "Demo.Pos?" << QStringList({"Pose"});
+    QTest::newRow("quoted star is no wildcard") << R"(Demo."Po*")" << QStringList();
+    QTest::newRow("only quotes") << R"(Demo."")" << QStringList();
+    QTest::newRow("many stars") << "Demo.*****e" << QStringList({"Pose"});
     QTest::newRow("empty") << "" << QStringList();
     QTest::newRow("sub-message") << "Demo.Satellite" << QStringList();
 }
@@ -192,6 +205,9 @@ void TestPathExpression::fields_matching_data()
     QTest::newRow("sub-field without parent") << "Demo.Position.armed" << QStringList();
     QTest::newRow("quoted") << "Demo.\"odd.name *\".\"a\\\"b\"" << QStringList({"a\"b"});
     QTest::newRow("unknown") << "Demo.Position.x" << QStringList();
+    QTest::newRow("star keeps to its name") << "Demo.Position.s*" << QStringList({"status", "sat"});
+    QTest::newRow("parts of one field") << "Demo.Position.status.*" << QStringList({"armed"});
+    QTest::newRow("parts of any field") << "Demo.Position.*.*" << QStringList({"armed"});
 }
 
 void TestPathExpression::fields_matching()
@@ -215,6 +231,95 @@ void TestPathExpression::prefix_matchesUntilCompleted()
     QCOMPARE(expression.getString(message), "Pos");
 }
 
+void TestPathExpression::prefix_isKeptAsTyped()
+{
+    PathExpression expression;
+    expression.setStringPrefix("Demo.Po", PathExpression::AllParts);
+    QCOMPARE(expression.getString(PathExpression::AllParts), "Demo.Po");
+    QVERIFY(expression.isWildCard(field));
+    const QSignalSpy parts(&expression, &PathExpression::partsChanged);
+    expression.completeEditing();
+    QCOMPARE(expression.getString(PathExpression::AllParts), "Demo.Po.*");
+    QCOMPARE(parts.size(), 1);
+    QCOMPARE(parts.constFirst().constFirst().value<PathExpression::Parts>(), field);
+    expression.completeEditing();
+    QCOMPARE(parts.size(), 1);
+}
+
+void TestPathExpression::prefix_ofSeveralParts_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QStringList>("names");
+
+    QTest::newRow("nothing") << ""
+                             << QStringList(
+                                    {"lat", "status", "armed", "sat", "lat", "a\"b", "lat"});
+    QTest::newRow("format") << "De"
+                            << QStringList({"lat", "status", "armed", "sat", "lat", "a\"b"});
+    QTest::newRow("message begins")
+        << "Demo." << QStringList({"lat", "status", "armed", "sat", "lat", "a\"b"});
+    QTest::newRow("message") << "Demo.Posi" << QStringList({"lat", "status", "armed", "sat"});
+    QTest::newRow("field") << "Demo.Position.s" << QStringList({"status", "armed", "sat"});
+    QTest::newRow("sub-field") << "Demo.Position.status.ar" << QStringList({"armed"});
+    QTest::newRow("open quote") << "Demo.\"odd" << QStringList({"a\"b"});
+    QTest::newRow("wildcard") << "Demo.*.l" << QStringList({"lat", "lat"});
+}
+
+void TestPathExpression::prefix_ofSeveralParts()
+{
+    QFETCH(QString, typed);
+    QFETCH(QStringList, names);
+    PathExpression expression;
+    expression.setStringPrefix(typed, PathExpression::AllParts);
+    QCOMPARE(namesOf(expression.getMatchingFieldInfos()), names);
+}
+
+void TestPathExpression::options_areSortedAsPeopleSort()
+{
+    const TestFormat many("Many", "B10\n  x int8\nb9\n  x int8\na\n  x int8\nB9\n  x int8\n"
+                                  "B09x\n  x int8\n");
+    PathExpression expression;
+    expression.setString("Many");
+    QCOMPARE(expression.getMatchingExpressionsStringList(message),
+             QStringList({"a", "B9", "b9", "B09x", "B10"}));
+}
+
+void TestPathExpression::anyText_isAccepted()
+{
+    PathExpression expression;
+    const QString bits[]
+        = {"",    ".", "\"", "\\", "*", "?", "a", "Demo", QString(QChar(0)), QString(QChar(0xD800)),
+           "\"\\"};
+    for (const QString &first : bits)
+        for (const QString &second : bits)
+            for (const QString &third : bits) {
+                expression.setString(first + second + third);
+                expression.getMatchingFieldInfos();
+                expression.setStringPrefix(third + first, message | field);
+                expression.getMatchingExpressionsStringList(PathExpression::AllParts);
+                expression.completeEditing();
+            }
+    expression.setString(QString(5000, '*') + "x", message);
+    QVERIFY(expression.getMatchingMessageInfos().isEmpty());
+}
+
+void TestPathExpression::oddNames_leadBack()
+{
+    const TestFormat odd("O.d*d", QString::fromUtf8("'a.b'\n  '*' int8\n    'x?' bits 0\n"
+                                                    "  ' blank ' int8\n  'größe.\\\\' int8\n"
+                                                    "'日本'\n  '\"' int8\n"));
+    for (const char *path : {"a.b", "日本"}) {
+        const MessageInfo *type = odd.type(QString::fromUtf8(path));
+        for (const FieldInfo *info : type->getFieldInfos()) {
+            PathExpression setUp;
+            setUp.setupToMatchUnique(info);
+            PathExpression fresh;
+            fresh.setString(setUp.getString(PathExpression::AllParts));
+            QCOMPARE(fresh.getMatchingFieldInfos(), QList<const FieldInfo *>({info}));
+        }
+    }
+}
+
 void TestPathExpression::subMessages_onlyWhenConsidered()
 {
     PathExpression expression;
@@ -232,9 +337,9 @@ void TestPathExpression::options_withoutDuplicates()
     PathExpression expression;
     QCOMPARE(expression.getMatchingExpressionsStringList(format), QStringList({"Demo", "Other"}));
     QCOMPARE(expression.getMatchingExpressionsStringList(message),
-             QStringList({"Position", "Pose", "\"odd.name *\""}));
+             QStringList({"\"odd.name *\"", "Pose", "Position"}));
     QCOMPARE(expression.getMatchingExpressionsStringList(field),
-             QStringList({"lat", "status", "status.armed", "sat", "\"a\\\"b\""}));
+             QStringList({"\"a\\\"b\"", "lat", "sat", "status", "status.armed"}));
     expression.setString("Other");
     QCOMPARE(expression.getMatchingExpressionsStringList(PathExpression::AllParts),
              QStringList({"Other.Position.lat"}));
