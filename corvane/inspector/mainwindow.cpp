@@ -7,6 +7,7 @@
 #include "messagetreepanel.h"
 #include "messagetypemodel.h"
 #include "session.h"
+#include "watchpanel.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>
@@ -97,7 +98,14 @@ void MainWindow::createPanels()
     setCentralWidget(tree);
     form = new FormPanel(*latest);
     addPanel(typeView, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
-    addPanel(form, QStringLiteral("form"), tr("Form"), Qt::RightDockWidgetArea);
+    watch = new WatchPanel(*latest);
+    QDockWidget *formDock
+        = addPanel(form, QStringLiteral("form"), tr("Form"), Qt::RightDockWidgetArea);
+    QDockWidget *watchDock
+        = addPanel(watch, QStringLiteral("watch"), tr("Watch"), Qt::RightDockWidgetArea);
+    tabifyDockWidget(formDock, watchDock);
+    formDock->raise();
+    resizeDocks({formDock}, {fontMetrics().averageCharWidth() * 60}, Qt::Horizontal);
 }
 
 QDockWidget *MainWindow::addPanel(QWidget *panel,
@@ -119,6 +127,7 @@ void MainWindow::restoreLayout()
     restoreGeometry(settings.value(geometryKey()).toByteArray());
     restoreState(settings.value(layoutKey()).toByteArray());
     tree->restoreSettings(settings);
+    watch->restoreSettings(settings);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -126,6 +135,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     settings.setValue(geometryKey(), saveGeometry());
     settings.setValue(layoutKey(), saveState());
     tree->saveSettings(settings);
+    watch->saveSettings(settings);
     QMainWindow::closeEvent(event);
 }
 
