@@ -105,7 +105,7 @@ void MainWindow::createPanels()
         = addPanel(watch, QStringLiteral("watch"), tr("Watch"), Qt::RightDockWidgetArea);
     tabifyDockWidget(formDock, watchDock);
     formDock->raise();
-    resizeDocks({formDock}, {fontMetrics().averageCharWidth() * 60}, Qt::Horizontal);
+    resizeDocks({formDock}, {fontMetrics().averageCharWidth() * 46}, Qt::Horizontal);
 }
 
 QDockWidget *MainWindow::addPanel(QWidget *panel,

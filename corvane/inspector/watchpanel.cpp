@@ -151,7 +151,10 @@ void WatchPanel::createTable()
 
 void WatchPanel::completeOptions()
 {
-    completions->setStringList(pathsOf(expression, maximumCompletions));
+    // Of its own: the list of fields completes the shared one when the text so far names a field.
+    PathExpression typed;
+    typed.setStringPrefix(edit->text(), PathExpression::AllParts);
+    completions->setStringList(pathsOf(typed, maximumCompletions));
 }
 
 void WatchPanel::followParts()

@@ -5,10 +5,12 @@
 #include "formatinfo.h"
 #include "messageinfo.h"
 
+#include <QPointer>
 #include <QSet>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 #include <vector>
 
 namespace corvane {
@@ -80,16 +82,17 @@ bool isNaturallyLess(const QString &left, const QString &right)
 {
     qsizetype i = 0;
     qsizetype j = 0;
-    const auto digitsAt = [](const QString &text, qsizetype &position) {
+    const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
+    const auto digitsAt = [&isDigit](const QString &text, qsizetype &position) {
         while (position < text.size() && text.at(position) == QLatin1Char('0'))
             ++position;
         const qsizetype start = position;
-        while (position < text.size() && text.at(position).isDigit())
+        while (position < text.size() && isDigit(text.at(position)))
             ++position;
         return QStringView(text).mid(start, position - start);
     };
     while (i < left.size() && j < right.size()) {
-        if (left.at(i).isDigit() && right.at(j).isDigit()) {
+        if (isDigit(left.at(i)) && isDigit(right.at(j))) {
             const QStringView leftDigits = digitsAt(left, i);
             const QStringView rightDigits = digitsAt(right, j);
             if (leftDigits.size() != rightDigits.size())
@@ -108,75 +111,82 @@ bool isNaturallyLess(const QString &left, const QString &right)
     return left < right;
 }
 
-/** What one name has to look like. */
+/** What one name has to look like: texts with stars between them. */
 class NamePattern
 {
 public:
     void addLiteral(QChar character)
     {
-        literal.append(character);
-        tokens.push_back({Token::Literal, character});
+        texts.back().append(character);
+        anyCharacter.back().append(false);
     }
 
-    void addWildCard(QChar character)
+    void addAnyCharacter()
     {
-        isLiteral = false;
-        tokens.push_back({character == star ? Token::AnyText : Token::AnyCharacter, {}});
+        texts.back().append(questionMark);
+        anyCharacter.back().append(true);
+        hasAnyCharacter = true;
+    }
+
+    void addAnyText()
+    {
+        texts.emplace_back();
+        anyCharacter.emplace_back();
     }
 
     bool matches(const QString &name) const
     {
-        return isLiteral ? name == literal : matchesWildCards(name);
+        if (const QString *only = getOnlyName())
+            return name == *only;
+        const QString &first = texts.front();
+        const QString &last = texts.back();
+        if (texts.size() == 1)
+            return name.size() == first.size() && isAt(0, name, 0);
+        qsizetype position = first.size();
+        const qsizetype end = name.size() - last.size();
+        if (end < position || !isAt(0, name, 0) || !isAt(texts.size() - 1, name, end))
+            return false;
+        // The leftmost place of each text leaves the most room for those behind it.
+        for (size_t i = 1; i + 1 < texts.size(); ++i) {
+            position = find(i, name, position);
+            if (position < 0 || position + texts[i].size() > end)
+                return false;
+            position += texts[i].size();
+        }
+        return true;
     }
 
     /** The only name that matches, or null where there may be several. */
-    const QString *getOnlyName() const { return isLiteral ? &literal : nullptr; }
-
-private:
-    struct Token
+    const QString *getOnlyName() const
     {
-        enum Kind {
-            Literal,
-            AnyCharacter,
-            AnyText
-        };
-
-        Kind kind;
-        QChar character;
-    };
-
-    // Goes back to the last star only, so the time is bounded by the product of the lengths.
-    bool matchesWildCards(const QString &name) const
-    {
-        size_t token = 0;
-        qsizetype position = 0;
-        size_t tokenBehindStar = 0;
-        qsizetype starEnd = -1;
-        while (position < name.size()) {
-            if (token < tokens.size() && tokens[token].kind == Token::AnyText) {
-                tokenBehindStar = ++token;
-                starEnd = position;
-            } else if (token < tokens.size()
-                       && (tokens[token].kind == Token::AnyCharacter
-                           || tokens[token].character == name.at(position)))
-            {
-                ++token;
-                ++position;
-            } else if (starEnd >= 0) {
-                token = tokenBehindStar;
-                position = ++starEnd;
-            } else {
-                return false;
-            }
-        }
-        while (token < tokens.size() && tokens[token].kind == Token::AnyText)
-            ++token;
-        return token == tokens.size();
+        return texts.size() == 1 && !hasAnyCharacter ? &texts.front() : nullptr;
     }
 
-    std::vector<Token> tokens;
-    QString literal;
-    bool isLiteral = true;
+private:
+    bool isAt(size_t index, const QString &name, qsizetype position) const
+    {
+        const QString &text = texts[index];
+        if (!hasAnyCharacter)
+            return QStringView(name).mid(position, text.size()) == text;
+        for (qsizetype i = 0; i < text.size(); ++i)
+            if (!anyCharacter[index].at(i) && name.at(position + i) != text.at(i))
+                return false;
+        return true;
+    }
+
+    qsizetype find(size_t index, const QString &name, qsizetype position) const
+    {
+        if (!hasAnyCharacter)
+            return name.indexOf(texts[index], position);
+        for (; position + texts[index].size() <= name.size(); ++position)
+            if (isAt(index, name, position))
+                return position;
+        return -1;
+    }
+
+    std::vector<QString> texts{QString()}; ///< What stands between the stars.
+    std::vector<QList<bool>> anyCharacter{QList<bool>()}; ///< By text and character.
+    bool hasAnyCharacter = false;
 };
 
 /** What the names of one part of an expression have to look like. */
@@ -202,13 +212,15 @@ public:
                 names.back().addLiteral(c);
             else if (c == dot && severalNames)
                 names.emplace_back();
-            else if (c == star || c == questionMark)
-                names.back().addWildCard(c);
+            else if (c == star)
+                names.back().addAnyText();
+            else if (c == questionMark)
+                names.back().addAnyCharacter();
             else
                 names.back().addLiteral(c);
         }
         if (prefix)
-            names.back().addWildCard(star);
+            names.back().addAnyText();
         // A part without any text names nothing, not what has an empty name.
         nothing = text.isEmpty() && !prefix;
     }
@@ -230,6 +242,8 @@ public:
     {
         if (everything)
             return true;
+        if (names.size() == 1 && field->getParentFieldInfo() == nullptr)
+            return matches(field->getData()->name);
         size_t depth = 1;
         for (const FieldInfo *f = field->getParentFieldInfo(); f != nullptr;
              f = f->getParentFieldInfo())
@@ -309,6 +323,9 @@ public:
     Texts texts{QString(star), QString(star), QString(star)};
     PathExpression::Parts prefixPart;
     bool considerSubMessages = false;
+    PathExpression::Parts partsToAnnounce;
+    bool matchesToAnnounce = false;
+    bool announcing = false;
 
 private:
     template <typename Visitor>
@@ -370,8 +387,15 @@ void PathExpression::setTexts(const QString &text, Parts parts, bool prefix)
     apply(texts, prefix ? Parts(chosen.at(pieces.size() - 1)) : Parts());
 }
 
-void PathExpression::apply(const std::array<QString, 3> &texts, Parts prefixPart)
+void PathExpression::apply(std::array<QString, 3> texts, Parts prefixPart)
 {
+    // What has not been typed yet stands at the end only, or the text would read as another one.
+    bool isEnd = true;
+    for (size_t i = texts.size(); i-- > 0;) {
+        isEnd = isEnd && texts.at(i).isNull();
+        if (!isEnd && texts.at(i).isNull())
+            texts.at(i) = corvane::star;
+    }
     Parts changed;
     for (const Part part : corvane::allParts) {
         const size_t index = PathExpressionData::indexOf(part);
@@ -379,15 +403,33 @@ void PathExpression::apply(const std::array<QString, 3> &texts, Parts prefixPart
             || texts.at(index).isNull() != d->texts.at(index).isNull())
             changed |= part;
     }
-    const bool prefixChanged = prefixPart != d->prefixPart;
-    if (!changed && !prefixChanged)
+    if (!changed && prefixPart == d->prefixPart)
         return;
     d->set(texts, prefixPart);
-    if (changed) {
-        Q_EMIT partsChanged(changed);
-        Q_EMIT expressionChanged(getString(AllParts));
+    d->partsToAnnounce |= changed;
+    d->matchesToAnnounce = true;
+    announce();
+}
+
+void PathExpression::announce()
+{
+    // A slot may change the expression again, or delete it. The outermost round tells of it all.
+    if (d->announcing)
+        return;
+    const QPointer<PathExpression> self(this);
+    d->announcing = true;
+    while (self && d->matchesToAnnounce) {
+        d->matchesToAnnounce = false;
+        if (const Parts changed = std::exchange(d->partsToAnnounce, {})) {
+            Q_EMIT partsChanged(changed);
+            if (self)
+                Q_EMIT expressionChanged(getString(AllParts));
+        }
+        if (self && !d->matchesToAnnounce)
+            Q_EMIT matchesMayHaveChanged();
     }
-    Q_EMIT matchesMayHaveChanged();
+    if (self)
+        d->announcing = false;
 }
 
 void PathExpression::setString(QString text, PathExpression::Parts parts)

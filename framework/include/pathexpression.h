@@ -90,7 +90,8 @@ Q_SIGNALS:
 
 private:
     void setTexts(const QString &text, Parts parts, bool prefix);
-    void apply(const std::array<QString, 3> &texts, Parts prefixPart);
+    void apply(std::array<QString, 3> texts, Parts prefixPart);
+    void announce();
 
     std::unique_ptr<corvane::PathExpressionData> d;
 };

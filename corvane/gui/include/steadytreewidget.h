@@ -42,6 +42,7 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     bool event(QEvent *event) override;
 
 private:
@@ -61,5 +62,6 @@ private:
 
     std::unique_ptr<PlainCharacters> plainCharacters;
     PlainChange plainChange;
+    bool repaintRequested = false; ///< Since the last painting.
     const QAbstractItemDelegate *ownDelegate; ///< Owned by the base. The one that it starts with.
 };

@@ -43,6 +43,7 @@ const char types[] = R"(
     Position
       height double unit "m"
       speed  float optional unit "m/s"
+      speed2 float
     Attitude
       roll   float
 )";
@@ -127,7 +128,10 @@ void tst_watchpanel::typing_offersWhatMatches()
     QStringList offered;
     for (int row = 0; row < completer->model()->rowCount(); ++row)
         offered += completer->model()->index(row, 0).data().toString();
-    QCOMPARE(offered, QStringList({"Demo.Position.height", "Demo.Position.speed"}));
+    QCOMPARE(offered,
+             QStringList({"Demo.Position.height", "Demo.Position.speed", "Demo.Position.speed2"}));
+    QTest::keyClicks(shown.edit(), "ition.speed");
+    QCOMPARE(completer->model()->rowCount(), 2);
 }
 
 void tst_watchpanel::states_tellWhyThereIsNoValue()
@@ -176,13 +180,18 @@ void tst_watchpanel::wildCards_addSeveralOnce()
     shown.panel.watch("Demo.Position.speed");
     shown.panel.watch("Demo.Position.*");
     QCOMPARE(shown.rows(), QStringList({"Demo.Position.speed | N/A | m/s | Not received yet",
-                                        "Demo.Position.height | N/A | m | Not received yet"}));
+                                        "Demo.Position.height | N/A | m | Not received yet",
+                                        "Demo.Position.speed2 | N/A |  | Not received yet"}));
 }
 
 void tst_watchpanel::rows_canBeRemovedAndMoved()
 {
     Shown shown;
-    shown.panel.watch("Demo.*.*");
+    shown.panel.watch("Demo.*.height");
+    shown.panel.watch("Demo.*.roll");
+    shown.panel.watch("Demo.*.speed");
+    shown.table()->setCurrentCell(0, 0);
+    shown.press("Down");
     const auto paths = [&] {
         QStringList all;
         for (const QString &row : shown.rows())

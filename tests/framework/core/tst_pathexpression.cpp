@@ -68,6 +68,10 @@ private Q_SLOTS:
     void options_areSortedAsPeopleSort();
     void anyText_isAccepted();
     void oddNames_leadBack();
+    void options_ofOddDigits_haveOneOrder();
+    void slot_thatChangesTheExpression_isToldOnce();
+    void slot_thatDeletesTheExpression();
+    void partBehindAPrefix_leavesNoHole();
     void subMessages_onlyWhenConsidered();
     void options_withoutDuplicates();
     void wildCards_ofParts();
@@ -318,6 +322,46 @@ void TestPathExpression::oddNames_leadBack()
             QCOMPARE(fresh.getMatchingFieldInfos(), QList<const FieldInfo *>({info}));
         }
     }
+}
+
+void TestPathExpression::options_ofOddDigits_haveOneOrder()
+{
+    // Digits of other scripts are letters here, or the order would go in circles.
+    const TestFormat odd("Odd", QString::fromUtf8("'٥'\n  x int8\n'10'\n  x int8\nx\n  x int8\n"));
+    PathExpression expression;
+    expression.setString("Odd");
+    QCOMPARE(expression.getMatchingExpressionsStringList(message),
+             QStringList({"10", "x", QString::fromUtf8("٥")}));
+}
+
+void TestPathExpression::slot_thatChangesTheExpression_isToldOnce()
+{
+    PathExpression expression;
+    QStringList told;
+    int matches = 0;
+    connect(&expression, &PathExpression::partsChanged, this,
+            [&] { expression.setWildCard(field); });
+    connect(&expression, &PathExpression::expressionChanged, this,
+            [&](const QString &text) { told.append(text); });
+    connect(&expression, &PathExpression::matchesMayHaveChanged, this, [&] { ++matches; });
+    expression.setString("A.B.c");
+    QCOMPARE(told, QStringList({"A.B.*", "A.B.*"})); // one for each round of changed parts
+    QCOMPARE(matches, 1);
+}
+
+void TestPathExpression::slot_thatDeletesTheExpression()
+{
+    auto *expression = new PathExpression;
+    connect(expression, &PathExpression::partsChanged, this, [expression] { delete expression; });
+    expression->setString("A.B.c");
+}
+
+void TestPathExpression::partBehindAPrefix_leavesNoHole()
+{
+    PathExpression expression;
+    expression.setStringPrefix("Demo", PathExpression::AllParts);
+    expression.setString("lat", field);
+    QCOMPARE(expression.getString(PathExpression::AllParts), "Demo.*.lat");
 }
 
 void TestPathExpression::subMessages_onlyWhenConsidered()

@@ -153,10 +153,19 @@ void SteadyTreeWidget::dataChanged(const QModelIndex &topLeft,
                                    const QModelIndex &bottomRight,
                                    const QList<int> &roles)
 {
-    if (canSkipLayout(topLeft, bottomRight))
-        viewport()->update();
-    else
+    if (!canSkipLayout(topLeft, bottomRight)) {
         QTreeWidget::dataChanged(topLeft, bottomRight, roles);
+    } else if (!repaintRequested) {
+        viewport()->update();
+        // A viewport that takes no requests now is painted as a whole once it does.
+        repaintRequested = viewport()->isVisible() && viewport()->updatesEnabled();
+    }
+}
+
+void SteadyTreeWidget::paintEvent(QPaintEvent *event)
+{
+    repaintRequested = false;
+    QTreeWidget::paintEvent(event);
 }
 
 bool SteadyTreeWidget::canSkipLayout(const QModelIndex &topLeft, const QModelIndex &bottomRight)
