@@ -9,12 +9,15 @@
 #include "messagetreewidget.h"
 #include "messagetreewidgetitem.h"
 #include "pathexpression.h"
+#include "singlevaluefieldtreewidgetitem.h"
 #include "steadytreewidget.h"
 
 #include <QApplication>
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -188,13 +191,89 @@ public:
     WideFormat(const WideFormat &) = delete;
     WideFormat &operator=(const WideFormat &) = delete;
 
-    const MessageInfo *type(int index) const
+    MessageInfo *type(int index) const
     {
         return info->getData()->messages.at(static_cast<size_t>(index)).get();
     }
 
     std::unique_ptr<FormatInfo> info;
 };
+
+class RepeatedField : public Field
+{
+public:
+    using Field::Field;
+
+    unsigned int getNumberOfValues(const Message *) const override { return 100'000; }
+};
+
+/** The first message with 100,000 elements, up to its first painting. */
+void firstElements(benchmark::State &state)
+{
+    const WideFormat format;
+    auto data = std::make_unique<corvane::FieldInfoData>();
+    data->name = "elements";
+    data->repeated = true;
+    MessageInfo *type = format.type(0);
+    type->getData()->addField(std::make_unique<RepeatedField>(std::move(data)), type);
+    const auto *message = new EmptyMessage(type);
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto tree = std::make_unique<MessageTreeWidget>();
+        auto *row = new MessageTreeWidgetItem(tree.get(), type);
+        tree->addTopLevelItem(row);
+        row->configureInTreeWidget();
+        tree->expandAll();
+        tree->show();
+        QApplication::processEvents();
+        state.ResumeTiming();
+        tree->processMessage(message);
+        QApplication::processEvents();
+        state.PauseTiming();
+        tree.reset();
+        state.ResumeTiming();
+    }
+    message->removeReference();
+}
+
+/** Bytes of a row of a field, and of a plain item, with the same texts. */
+void rowMemory(benchmark::State &state)
+{
+    const WideFormat format;
+    constexpr int count = 10'000;
+    const auto bytesOf = [](const std::function<QTreeWidgetItem *()> &make) {
+        QList<QTreeWidgetItem *> items;
+        items.reserve(count);
+        const size_t before = mallinfo2().uordblks;
+        for (int i = 0; i < count; ++i)
+            items.append(make());
+        const size_t after = mallinfo2().uordblks;
+        qDeleteAll(items);
+        return static_cast<double>(after - before) / count;
+    };
+    MessageTreeWidget tree;
+    const FieldInfo *field = format.type(0)->getFieldInfos().constFirst();
+    const auto *message = new EmptyMessage(format.type(0));
+    for (auto _ : state) {
+        state.counters["row"] = bytesOf([&]() -> QTreeWidgetItem * {
+            auto *row = new SingleValueFieldTreeWidgetItem(&tree, 0);
+            row->setFieldInfo(field);
+            row->processMessage(message);
+            return row;
+        });
+        state.counters["plainItem"] = bytesOf([&]() -> QTreeWidgetItem * {
+            auto *item = new QTreeWidgetItem;
+            item->setText(0, field->getName());
+            item->setText(1, field->getType().toShortString());
+            item->setText(2, field->getInterpretedString(field->getValue(message, 0), true));
+            return item;
+        });
+    }
+    message->removeReference();
+}
+
+BENCHMARK(firstElements);
+BENCHMARK(rowMemory)->Iterations(1);
 
 /** A message that no row is for. */
 void broadcast(benchmark::State &state)
