@@ -53,7 +53,7 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     createPanels();
     createStatusBar();
     connectAll();
-    resize(fontMetrics().averageCharWidth() * 180, fontMetrics().height() * 50);
+    resize(fontMetrics().averageCharWidth() * 230, fontMetrics().height() * 55);
     restoreLayout();
     showChosenType();
     refreshCounts();
@@ -105,7 +105,6 @@ void MainWindow::createPanels()
         = addPanel(watch, QStringLiteral("watch"), tr("Watch"), Qt::RightDockWidgetArea);
     tabifyDockWidget(formDock, watchDock);
     formDock->raise();
-    resizeDocks({formDock}, {fontMetrics().averageCharWidth() * 46}, Qt::Horizontal);
 }
 
 QDockWidget *MainWindow::addPanel(QWidget *panel,
