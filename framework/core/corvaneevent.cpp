@@ -8,8 +8,6 @@ struct CorvaneEventData
 };
 } // namespace corvane
 
-CorvaneEvent::CorvaneEvent() = default;
-
 CorvaneEvent::CorvaneEvent(Type type, const QString &message)
     : d(std::make_shared<corvane::CorvaneEventData>(corvane::CorvaneEventData{type, message}))
 {
@@ -21,10 +19,10 @@ CorvaneEvent::~CorvaneEvent() = default;
 
 CorvaneEvent::Type CorvaneEvent::getType() const
 {
-    return d != nullptr ? d->type : Other;
+    return d->type;
 }
 
 QString CorvaneEvent::getMessage() const
 {
-    return d != nullptr ? d->message : QString();
+    return d->message;
 }

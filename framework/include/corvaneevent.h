@@ -26,7 +26,6 @@ public:
         SourceFailed = 7
     };
 
-    CorvaneEvent();
     CorvaneEvent(Type type, const QString &message);
     CorvaneEvent(const CorvaneEvent &other);
     CorvaneEvent &operator=(const CorvaneEvent &other);

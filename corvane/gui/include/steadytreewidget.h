@@ -26,6 +26,8 @@ public:
 
     /** Sets the display text of \a item's \a column. */
     static void setItemText(QTreeWidgetItem *item, int column, const QString &text);
+    /** The same for a number, by which the column then sorts. */
+    static void setItemNumber(QTreeWidgetItem *item, int column, quint64 number);
     // Setting these to what they are would make the tree lay out all rows again.
     static void setItemHidden(QTreeWidgetItem *item, bool hidden);
     static void setItemExpanded(QTreeWidgetItem *item, bool expanded);
@@ -49,6 +51,8 @@ private:
     class PlainCharacters;
 
     void moveCurrentOut(QTreeWidgetItem *parent, const QSet<QTreeWidgetItem *> &doomed);
+    static void
+    setItemData(QTreeWidgetItem *item, int column, const QVariant &data, const QString &text);
     bool isPlain(const QString &text);
     bool canSkipLayout(const QModelIndex &topLeft, const QModelIndex &bottomRight);
 

@@ -70,7 +70,7 @@ void TestEventLog::event_isAValue()
     CorvaneEvent copy = event;
     QCOMPARE(copy.getMessage(), "damaged");
     QCOMPARE(static_cast<int>(copy.getType()), 2);
-    copy = CorvaneEvent();
+    copy = CorvaneEvent(CorvaneEvent::Other, QString());
     QCOMPARE(copy.getType(), CorvaneEvent::Other);
     QCOMPARE(copy.getMessage(), QString());
     QCOMPARE(event.getMessage(), "damaged");

@@ -76,13 +76,26 @@ SteadyTreeWidget::~SteadyTreeWidget() = default;
 
 void SteadyTreeWidget::setItemText(QTreeWidgetItem *item, int column, const QString &text)
 {
+    setItemData(item, column, text, text);
+}
+
+void SteadyTreeWidget::setItemNumber(QTreeWidgetItem *item, int column, quint64 number)
+{
+    setItemData(item, column, number, QString::number(number));
+}
+
+void SteadyTreeWidget::setItemData(QTreeWidgetItem *item,
+                                   int column,
+                                   const QVariant &data,
+                                   const QString &text)
+{
     auto *tree = dynamic_cast<SteadyTreeWidget *>(item->treeWidget());
     if (tree == nullptr || !tree->isPlain(text) || !tree->isPlain(item->text(column))) {
-        item->setData(column, Qt::DisplayRole, text);
+        item->setData(column, Qt::DisplayRole, data);
         return;
     }
     const QScopedValueRollback change(tree->plainChange, PlainChange{item, column, &text});
-    item->setData(column, Qt::DisplayRole, text);
+    item->setData(column, Qt::DisplayRole, data);
 }
 
 void SteadyTreeWidget::setItemHidden(QTreeWidgetItem *item, bool hidden)

@@ -1,0 +1,221 @@
+#include "messagestatisticstreewidgetitem.h"
+
+#include "memleaktracer.h"
+#include "messageinfo.h"
+#include "steadytreewidget.h"
+
+#include <QObject>
+#include <QSet>
+
+namespace {
+
+enum Column {
+    NameColumn,
+    CountColumn,
+    RateColumn,
+    GapsColumn
+};
+
+// Rows of gaps are found by their place, so no sorting may move them.
+class GapItem : public QTreeWidgetItem
+{
+public:
+    bool operator<(const QTreeWidgetItem &) const override { return false; }
+};
+
+QString durationText(const MessageStatistics::Gap &gap)
+{
+    // 32 bits, also where that is too short; unsigned, so that it is defined.
+    const auto duration
+        = static_cast<qint32>(gap.missingEpochs * static_cast<quint32>(gap.interval));
+    constexpr qint32 msPerSecond = 1000;
+    if (duration >= msPerSecond)
+        return QObject::tr("%1 s").arg(duration / static_cast<double>(msPerSecond));
+    return QObject::tr("%1 ms").arg(duration);
+}
+
+} // namespace
+
+MessageStatisticsTreeWidgetItem::MessageStatisticsTreeWidgetItem(MessageStatistics *statistics)
+    : statistics(statistics)
+    , intervalsItem(new QTreeWidgetItem)
+{
+    MemLeakTracer::getInstance()->doAllocateObject(
+        QStringLiteral("MessageStatisticsTreeWidgetItem"));
+    const QString name = statistics->getMessageName();
+    const MessageInfo *info = statistics->getMessageInfo();
+    setText(NameColumn, name);
+    setToolTip(NameColumn, info != nullptr ? info->getShortDescriptiveText()
+                                           : QObject::tr("%1 (unknown)").arg(name));
+    setToolTip(CountColumn,
+               QObject::tr("Number of times the %1\nmessage has been received.").arg(name));
+    setToolTip(RateColumn, QObject::tr("Most recent regular rate/interval at which the %1\n"
+                                       "message has been received.")
+                               .arg(name));
+    setToolTip(GapsColumn,
+               QObject::tr("Detected gaps in regular data segments with valid time, if any."));
+    intervalsItem->setText(NameColumn, QObject::tr("Rates/Intervals"));
+    intervalsItem->setToolTip(
+        NameColumn, QObject::tr("The rates/intervals in which this message has been received,\n"
+                                "together with the corresponding count."));
+    addChild(intervalsItem);
+    updateContents();
+}
+
+MessageStatisticsTreeWidgetItem::~MessageStatisticsTreeWidgetItem()
+{
+    MemLeakTracer::getInstance()->doDeallocateObject(
+        QStringLiteral("MessageStatisticsTreeWidgetItem"));
+}
+
+MessageStatistics *MessageStatisticsTreeWidgetItem::getMessageStatistics()
+{
+    return statistics;
+}
+
+void MessageStatisticsTreeWidgetItem::fullExpand()
+{
+    setExpanded(true);
+    intervalsItem->setExpanded(true);
+}
+
+void MessageStatisticsTreeWidgetItem::updateContents()
+{
+    SteadyTreeWidget::setItemNumber(this, CountColumn, statistics->getCount());
+    SteadyTreeWidget::setItemText(
+        this, RateColumn,
+        statistics->isCurrentlyRegular()
+            ? MessageStatistics::getIntervalString(statistics->getLastInterval())
+            : QObject::tr("N/A"));
+    const auto gapCount = static_cast<qint32>(statistics->getNumberOfGaps());
+    SteadyTreeWidget::setItemText(this, GapsColumn,
+                                  gapCount >= 1 ? QObject::tr("%1 (%2 epochs)")
+                                                      .arg(gapCount)
+                                                      .arg(statistics->getNumberOfMissingEpochs())
+                                                : QString());
+    updateIntervalSubItems();
+    updateGapSubItems();
+}
+
+void MessageStatisticsTreeWidgetItem::updateIntervalSubItems()
+{
+    updateCountItem(noTimeItem, statistics->getCountWithUnknownTime(), QObject::tr("No time"),
+                    QObject::tr("The number of times this message \n"
+                                "has been received without a valid time tag."));
+    updateCountItem(unknownIntervalItem, statistics->getCountWithKnownTimeButUnknownInterval(),
+                    QObject::tr("Unknown interval/rate"),
+                    QObject::tr("Number of times this message has been received \n"
+                                "with a valid time tag but for which the interval \n"
+                                "could not be determined: \n"
+                                "there was no previous message with valid time, \n"
+                                "and the following messages did not \n"
+                                "come in at a regular rate."));
+    const auto counts = statistics->getIntervalCountHash();
+    const auto intervals = statistics->getIntervalsSortedOnFrequency(-1);
+    QSet<long long> current;
+    for (const long long interval : intervals) {
+        const unsigned int count = counts.value(interval);
+        if (count == 0)
+            continue;
+        current.insert(interval);
+        SteadyTreeWidget::setItemText(getIntervalItem(interval), CountColumn,
+                                      QString::number(count));
+    }
+    for (auto entry = intervalItems.begin(); entry != intervalItems.end();) {
+        if (current.contains(entry.key())) {
+            ++entry;
+        } else {
+            delete entry.value();
+            entry = intervalItems.erase(entry);
+        }
+    }
+}
+
+void MessageStatisticsTreeWidgetItem::updateCountItem(QTreeWidgetItem *&item,
+                                                      unsigned int count,
+                                                      const QString &title,
+                                                      const QString &toolTip)
+{
+    if (count == 0) {
+        delete item;
+        item = nullptr;
+        return;
+    }
+    if (item == nullptr) {
+        item = new QTreeWidgetItem;
+        item->setText(NameColumn, title);
+        item->setToolTip(NameColumn, toolTip);
+        item->setToolTip(CountColumn, toolTip);
+        intervalsItem->insertChild(0, item);
+    }
+    SteadyTreeWidget::setItemText(item, CountColumn, QString::number(count));
+}
+
+QTreeWidgetItem *MessageStatisticsTreeWidgetItem::getIntervalItem(long long interval)
+{
+    QTreeWidgetItem *&item = intervalItems[interval];
+    if (item == nullptr) {
+        const QString text
+            = MessageStatistics::getIntervalString(static_cast<unsigned long long>(interval));
+        const QString toolTip
+            = interval != 0
+                  ? QObject::tr("Number of times the message was received at %1.").arg(text)
+                  : QObject::tr("Number of times the messages was received\n"
+                                "with the same time stamp as previous.");
+        item = new QTreeWidgetItem;
+        item->setText(NameColumn, text);
+        item->setToolTip(NameColumn, toolTip);
+        item->setToolTip(CountColumn, toolTip);
+        intervalsItem->addChild(item);
+    }
+    return item;
+}
+
+void MessageStatisticsTreeWidgetItem::updateGapSubItems()
+{
+    const auto gaps = statistics->getGaps();
+    if (gaps.isEmpty()) {
+        delete gapsItem;
+        gapsItem = nullptr;
+        shownGaps.clear();
+        return;
+    }
+    if (gapsItem == nullptr) {
+        gapsItem = new QTreeWidgetItem;
+        gapsItem->setToolTip(NameColumn, QObject::tr("Gaps, with time and duration"));
+        addChild(gapsItem);
+    }
+    SteadyTreeWidget::setItemText(gapsItem, NameColumn,
+                                  statistics->hasUnstoredGaps()
+                                      ? QObject::tr("Gaps (incomplete list)")
+                                      : QObject::tr("Gaps"));
+    while (gapsItem->childCount() < gaps.size()) {
+        auto *item = new GapItem;
+        item->setToolTip(NameColumn, QObject::tr("Gaps start"));
+        item->setToolTip(CountColumn, QObject::tr("Missing epochs"));
+        item->setToolTip(RateColumn, QObject::tr("Duration"));
+        gapsItem->addChild(item);
+    }
+    // The rows behind a deleted one move up, so every second one stays; people rely on it.
+    for (auto i = static_cast<int>(gaps.size()); i < gapsItem->childCount(); ++i)
+        delete gapsItem->child(i);
+    if (shownGaps.size() > gaps.size())
+        shownGaps.resize(gaps.size());
+    for (qsizetype i = 0; i < gaps.size(); ++i) {
+        if (i < shownGaps.size() && shownGaps.at(i) == gaps.at(i))
+            continue;
+        writeGap(gapsItem->child(static_cast<int>(i)), gaps.at(i));
+        if (i < shownGaps.size())
+            shownGaps[i] = gaps.at(i);
+        else
+            shownGaps.append(gaps.at(i));
+    }
+}
+
+void MessageStatisticsTreeWidgetItem::writeGap(QTreeWidgetItem *item,
+                                               const MessageStatistics::Gap &gap)
+{
+    SteadyTreeWidget::setItemText(item, NameColumn, MessageStatistics::getTimeString(gap.start));
+    SteadyTreeWidget::setItemText(item, CountColumn, QString::number(gap.missingEpochs));
+    SteadyTreeWidget::setItemText(item, RateColumn, durationText(gap));
+}
