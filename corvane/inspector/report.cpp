@@ -1,6 +1,7 @@
 #include "report.h"
 
 #include "formatinfo.h"
+#include "messageinfo.h"
 #include "messagestatistics.h"
 #include "messagestatisticsdata.h"
 #include "reception.h"
@@ -9,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
 #include <QTextStream>
 
 namespace corvane {
@@ -35,9 +37,18 @@ QJsonValue optionalNumber(const std::optional<quint64> &count)
 quint64 countEvents(Reception &reception)
 {
     quint64 count = 0;
-    for (const quint32 ofType : reception.getStatistics()->getData()->eventCounts)
+    for (const quint64 ofType : reception.getStatistics()->getData()->eventCounts)
         count += ofType;
     return count;
+}
+
+QJsonArray intervalsOf(const MessageStatistics &type)
+{
+    QJsonArray intervals;
+    for (const auto &interval : type.getData()->intervals.getClasses())
+        intervals.append(QJsonObject{{QStringLiteral("ms"), interval.ms},
+                                     {QStringLiteral("count"), number(interval.count)}});
+    return intervals;
 }
 
 QJsonArray messagesOf(Reception &reception)
@@ -45,24 +56,52 @@ QJsonArray messagesOf(Reception &reception)
     const bool hasChecksum = reception.getTotals().crcErrors.has_value();
     QJsonArray messages;
     for (const MessageStatistics *type : reception.getStatistics()->getAllMessageStatistics()) {
-        const QJsonValue crcErrors
-            = hasChecksum ? number(type->getData()->crcErrors) : QJsonValue();
-        messages.append(QJsonObject{{QStringLiteral("format"), type->getFormatInfo()->getName()},
-                                    {QStringLiteral("name"), type->getMessageName()},
-                                    {QStringLiteral("count"), number(type->getCount())},
-                                    {QStringLiteral("crcErrors"), crcErrors}});
+        const MessageStatisticsData &data = *type->getData();
+        const QJsonValue crcErrors = hasChecksum ? number(data.crcErrors) : QJsonValue();
+        messages.append(QJsonObject{
+            {QStringLiteral("format"), type->getFormatInfo()->getName()},
+            {QStringLiteral("name"), type->getMessageName()},
+            {QStringLiteral("count"), number(data.received)},
+            {QStringLiteral("crcErrors"), crcErrors},
+            {QStringLiteral("unknownTime"), number(data.withUnknownTime)},
+            {QStringLiteral("unknownInterval"), number(data.intervals.unknownIntervals)},
+            {QStringLiteral("gaps"), number(data.intervals.gapCount)},
+            {QStringLiteral("missingEpochs"), number(data.intervals.missingEpochs)},
+            {QStringLiteral("regular"), type->isCurrentlyRegular()},
+            {QStringLiteral("lastIntervalMs"), number(type->getLastInterval())},
+            {QStringLiteral("intervals"), intervalsOf(*type)}});
     }
     return messages;
 }
 
+QJsonArray crcErrorsByTypeOf(const SenderStatistics &sender)
+{
+    QMap<QString, quint64> byName;
+    for (auto entry = sender.crcErrorsByType.begin(); entry != sender.crcErrorsByType.end();
+         ++entry)
+        byName[entry.key()->getName()] += entry.value();
+    QJsonArray types;
+    for (auto entry = byName.begin(); entry != byName.end(); ++entry)
+        types.append(QJsonObject{{QStringLiteral("name"), entry.key()},
+                                 {QStringLiteral("count"), number(entry.value())}});
+    return types;
+}
+
 QJsonArray sendersOf(const Reception &reception)
 {
+    const bool hasChecksum = reception.getTotals().crcErrors.has_value();
     QJsonArray senders;
-    for (const auto &sender : reception.getSenders().getAll())
+    for (const auto &sender : reception.getSenders().getAll()) {
+        const QJsonValue crcErrors = hasChecksum ? number(sender->crcErrors) : QJsonValue();
+        const QJsonValue byType
+            = hasChecksum ? QJsonValue(crcErrorsByTypeOf(*sender)) : QJsonValue();
         senders.append(QJsonObject{{QStringLiteral("id"), sender->id},
                                    {QStringLiteral("frames"), number(sender->frames)},
                                    {QStringLiteral("sequenceGaps"), number(sender->sequenceGaps)},
-                                   {QStringLiteral("lost"), number(sender->lost)}});
+                                   {QStringLiteral("lost"), number(sender->lost)},
+                                   {QStringLiteral("crcErrors"), crcErrors},
+                                   {QStringLiteral("crcErrorsByMessage"), byType}});
+    }
     return senders;
 }
 
@@ -100,13 +139,23 @@ void writeTotals(QTextStream &out, const Reception::Totals &totals)
 
 void writeMessages(QTextStream &out, Reception &reception)
 {
-    out << '\n' << tr("     Count   CRC errors  Message") << '\n';
-    for (const MessageStatistics *type : reception.getStatistics()->getAllMessageStatistics())
-        out << QStringLiteral("%1   %2  %3")
-                   .arg(type->getCount(), 10)
+    out << '\n'
+        << tr("     Count   CRC errors  Gaps (missing epochs)  Interval         Message") << '\n';
+    for (const MessageStatistics *type : reception.getStatistics()->getAllMessageStatistics()) {
+        const IntervalStatistics &intervals = type->getData()->intervals;
+        const QString gaps
+            = QStringLiteral("%1 (%2)").arg(intervals.gapCount).arg(intervals.missingEpochs);
+        const QString interval = type->isCurrentlyRegular()
+                                     ? MessageStatistics::getIntervalString(type->getLastInterval())
+                                     : tr("not regular");
+        out << QStringLiteral("%1   %2  %3  %4  %5")
+                   .arg(type->getData()->received, 10)
                    .arg(type->getData()->crcErrors, 10)
+                   .arg(gaps, 21)
+                   .arg(interval, -15)
                    .arg(type->getMessageName())
             << '\n';
+    }
 }
 
 void writeSenders(QTextStream &out, const Reception &reception)
@@ -137,9 +186,11 @@ void writeEvents(QTextStream &out, Reception &reception)
 
 QByteArray makeJsonReport(const QString &source, Reception &reception)
 {
+    reception.flushEvents();
     const Reception::Totals &totals = reception.getTotals();
     const QJsonArray events = eventsOf(reception);
-    const quint64 omitted = countEvents(reception) - static_cast<quint64>(events.size());
+    const auto omitted
+        = static_cast<quint64>(reception.getEventLog()->getEntries().size() - events.size());
     const QJsonObject report{{QStringLiteral("source"), source},
                              {QStringLiteral("bytes"), number(totals.bytes)},
                              {QStringLiteral("skippedBytes"), number(totals.skippedBytes)},
@@ -149,12 +200,14 @@ QByteArray makeJsonReport(const QString &source, Reception &reception)
                              {QStringLiteral("messages"), messagesOf(reception)},
                              {QStringLiteral("senders"), sendersOf(reception)},
                              {QStringLiteral("events"), events},
-                             {QStringLiteral("eventsOmitted"), number(omitted)}};
+                             {QStringLiteral("eventsOmitted"), number(omitted)},
+                             {QStringLiteral("eventCount"), number(countEvents(reception))}};
     return QJsonDocument(report).toJson();
 }
 
 QByteArray makeTextReport(const QString &source, Reception &reception)
 {
+    reception.flushEvents();
     QByteArray text;
     QTextStream out(&text);
     out << tr("Source:          %1").arg(source) << '\n';

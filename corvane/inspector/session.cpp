@@ -1,12 +1,13 @@
 #include "session.h"
 
 #include "bytesource.h"
-#include "decodedmessage.h"
 #include "descriptions.h"
 #include "mavlinkmessage.h"
 #include "messageinfo.h"
 #include "overlayloader.h"
 #include "streampump.h"
+
+#include <QDateTime>
 
 namespace corvane {
 
@@ -53,12 +54,24 @@ void Session::start(const Options &options)
     if (!atOnce)
         clock.setSpeed(*options.speed);
     pump = std::make_unique<StreamPump>(*source, *decoder, atOnce ? nullptr : &clock);
-    connect(pump.get(), &StreamPump::finished, this, &Session::finished);
+    connect(source.get(), &ByteSource::opened, this, [this] {
+        addSourceEvent(CorvaneEvent::SourceOpened, tr("Opened: %1").arg(source->getName()));
+    });
+    connect(pump.get(), &StreamPump::finished, this, [this] {
+        addSourceEvent(CorvaneEvent::SourceClosed, tr("At its end: %1").arg(source->getName()));
+        Q_EMIT finished();
+    });
     connect(pump.get(), &StreamPump::failed, this, [this](const QString &message) {
-        reception->addEvent(CorvaneEvent::SourceFailed, message, DecodedMessage::unknownTime);
+        addSourceEvent(CorvaneEvent::SourceFailed, message);
         Q_EMIT failed(message);
     });
     pump->start();
+}
+
+void Session::addSourceEvent(CorvaneEvent::Type type, const QString &text)
+{
+    reception->flushEvents();
+    reception->addEvent(type, text, QDateTime::currentMSecsSinceEpoch() * 1000);
 }
 
 void Session::stop()

@@ -49,6 +49,7 @@ Q_SIGNALS:
 
 private:
     void needAllTypes();
+    void addSourceEvent(CorvaneEvent::Type type, const QString &text);
 
     MavlinkFormat format;
     std::unique_ptr<Reception> reception;

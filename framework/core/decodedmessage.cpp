@@ -1,5 +1,12 @@
 #include "decodedmessage.h"
 
+#include "descriptions.h"
+#include "fieldinfo.h"
+#include "fieldvalue.h"
+#include "messageinfo.h"
+
+#include <cmath>
+
 namespace corvane {
 
 DecodedMessage::DecodedMessage(const MessageInfo *info, qint64 timeUs, quint32 senderId)
@@ -23,6 +30,23 @@ DecodedMessage::DecodedMessage(const MessageInfo *info,
 QByteArrayView DecodedMessage::getBytes() const
 {
     return {};
+}
+
+std::optional<qint64> readOwnTimeUs(const Message *message)
+{
+    const MessageInfoData &type = *message->getInfo()->getData();
+    if (type.timeField == nullptr || type.timeField->getNumberOfValues(message) == 0)
+        return std::nullopt;
+    const FieldValue value = type.timeField->getValue(message, 0);
+    // Hidden or not: the time of a message is no content.
+    const auto bits = value.bitsOfInteger();
+    const double us = (bits ? static_cast<double>(static_cast<qint64>(*bits))
+                            : value.toDouble().value_or(std::nan("")))
+                      * static_cast<double>(type.timeFieldUnitUs);
+    constexpr double exact = 9007199254740992.0; // 2^53: microseconds until the year 2255
+    if (!(std::abs(us) < exact))
+        return std::nullopt;
+    return std::llround(us);
 }
 
 } // namespace corvane

@@ -6,6 +6,7 @@
 #include <QByteArrayView>
 
 #include <limits>
+#include <optional>
 
 namespace corvane {
 
@@ -37,5 +38,11 @@ private:
     quint32 senderId;
     bool confidential;
 };
+
+/**
+ * The time that a message carries in the field that was named for it, in microseconds; nothing if
+ * there is no such field or no such value.
+ */
+CORVANEFRAMEWORK_EXPORT std::optional<qint64> readOwnTimeUs(const Message *message);
 
 } // namespace corvane

@@ -31,59 +31,65 @@ QString MessageStatistics::getMessageName() const
 
 unsigned int MessageStatistics::getCount() const
 {
-    return d->received;
+    return corvane::saturated<unsigned int>(d->received);
 }
 
 unsigned int MessageStatistics::getCountWithUnknownTime() const
 {
-    return d->withUnknownTime;
+    return corvane::saturated<unsigned int>(d->withUnknownTime);
 }
 
 unsigned int MessageStatistics::getCountWithKnownTimeButUnknownInterval() const
 {
-    return d->withUnknownInterval;
+    return corvane::saturated<unsigned int>(d->intervals.unknownIntervals);
 }
-
-// Regularity is not judged yet, so there is no regular stretch that could have gaps.
 
 unsigned int MessageStatistics::getNumberOfMissingEpochs() const
 {
-    return 0;
+    return corvane::saturated<unsigned int>(d->intervals.missingEpochs);
 }
 
 unsigned int MessageStatistics::getNumberOfGaps() const
 {
-    return 0;
+    // Followers read the number as a signed one.
+    return static_cast<unsigned int>(corvane::saturated<int>(d->intervals.gapCount));
 }
 
 bool MessageStatistics::hasUnstoredGaps() const
 {
-    return false;
+    return d->intervals.gapCount > static_cast<quint64>(d->intervals.gaps.size());
 }
 
 bool MessageStatistics::isCurrentlyRegular() const
 {
-    return false;
+    return d->isRegular();
 }
 
 unsigned long long MessageStatistics::getLastInterval() const
 {
-    return d->lastIntervalMs;
+    return d->latestSender < d->senders.size() ? d->senders[d->latestSender].rhythm.getIntervalMs()
+                                               : 0;
 }
 
 QHash<long long, unsigned int> MessageStatistics::getIntervalCountHash() const
 {
-    return {};
+    QHash<long long, unsigned int> counts;
+    for (const auto &known : d->intervals.getClasses())
+        counts.insert(known.ms, corvane::saturated<unsigned int>(known.count));
+    return counts;
 }
 
-QList<long long> MessageStatistics::getIntervalsSortedOnFrequency(int) const
+QList<long long> MessageStatistics::getIntervalsSortedOnFrequency(int maximum) const
 {
-    return {};
+    QList<long long> intervals;
+    for (const auto &known : d->intervals.getClasses())
+        intervals.append(known.ms);
+    return maximum >= 0 ? intervals.mid(0, maximum) : intervals;
 }
 
 QList<MessageStatistics::Gap> MessageStatistics::getGaps() const
 {
-    return {};
+    return d->intervals.gaps;
 }
 
 QString MessageStatistics::getTimeString(unsigned long long time)

@@ -10,6 +10,7 @@ namespace corvane {
 MessageStatisticsData &
 MessageStatisticsCoordinatorData::add(std::unique_ptr<MessageStatisticsData> data)
 {
+    data->clock = &clock;
     all.push_back(std::make_unique<MessageStatistics>(std::move(data)));
     return *all.back()->getData();
 }
@@ -70,5 +71,6 @@ QList<MessageStatistics *> MessageStatisticsCoordinator::getAllMessageStatistics
 unsigned int MessageStatisticsCoordinator::getEventCount(CorvaneEvent::Type type) const
 {
     const auto index = static_cast<size_t>(type);
-    return index < d->eventCounts.size() ? d->eventCounts[index] : 0;
+    return index < d->eventCounts.size() ? corvane::saturated<unsigned int>(d->eventCounts[index])
+                                         : 0;
 }

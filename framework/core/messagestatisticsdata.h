@@ -2,12 +2,15 @@
 
 #include "corvaneframework_export.h"
 #include "descriptions.h"
+#include "intervalstatistics.h"
 #include "messageinfo.h"
 #include "messagestatistics.h"
 #include "messagestatisticscoordinator.h"
+#include "rhythm.h"
 
 #include <QHash>
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <memory>
@@ -15,43 +18,57 @@
 
 namespace corvane {
 
-/** Adds 1 and stays at the largest value. */
-template <typename Count>
-void increment(Count &count)
+struct FrameHeader;
+
+/** \a count in the bits of Result, or the largest value where it does not fit. */
+template <typename Result>
+Result saturated(quint64 count)
 {
-    if (count != std::numeric_limits<Count>::max())
-        ++count;
+    return static_cast<Result>(
+        std::min<quint64>(count, static_cast<quint64>(std::numeric_limits<Result>::max())));
 }
 
-/** The counts behind one MessageStatistics. */
-struct MessageStatisticsData
+/** The time of the latest frame of a stream, whatever its type. */
+struct StreamClock
 {
-    static constexpr qint64 noTime = std::numeric_limits<qint64>::min();
+    qint64 latestUs = Rhythm::noTime;
+};
 
-    /** Counts one good message; \a timeUs in microseconds since 1970, or noTime. */
-    void count(qint64 timeUs)
+/** What is counted for one MessageStatistics. */
+struct CORVANEFRAMEWORK_EXPORT MessageStatisticsData
+{
+    /** The rhythm of one sender. */
+    struct Sender
     {
-        increment(received);
-        if (timeUs == noTime) {
-            increment(withUnknownTime);
-            return;
-        }
-        if (lastTimeUs == noTime || timeUs < lastTimeUs)
-            increment(withUnknownInterval);
-        else
-            lastIntervalMs = static_cast<quint64>(timeUs - lastTimeUs) / 1000;
-        lastTimeUs = timeUs;
-    }
+        quint32 id = 0;
+        bool hasOwnClock = false; ///< Its times are not those of the stream.
+        Rhythm rhythm;
+    };
+
+    /** Messages of further senders are counted, but not their intervals. */
+    static constexpr size_t maximumSenders = 64;
+
+    /** Counts one good message. */
+    void count(const FrameHeader &frame);
+    /** The next messages follow on nothing that is known. */
+    void interrupt();
+    /** Whether all senders that still send do so regularly. */
+    bool isRegular() const;
 
     const FormatInfo *format = nullptr; ///< Not owned.
     const MessageInfo *message = nullptr; ///< Not owned; null for an unknown message id.
+    const StreamClock *clock = nullptr; ///< Not owned.
     QString name;
-    quint32 received = 0;
-    quint32 withUnknownTime = 0;
-    quint32 withUnknownInterval = 0;
-    quint32 crcErrors = 0; ///< Damaged frames that claim to be of this type.
-    qint64 lastTimeUs = noTime;
-    quint64 lastIntervalMs = 0;
+    quint64 received = 0;
+    quint64 withUnknownTime = 0;
+    quint64 crcErrors = 0; ///< Damaged frames that claim to be of this type.
+    IntervalStatistics intervals;
+    std::vector<Sender> senders;
+    size_t latestSender = 0; ///< Neighbouring messages often share a sender.
+
+private:
+    Sender *findSender(quint32 id);
+    bool isActive(const Sender &sender) const;
 };
 
 /** The statistics behind one MessageStatisticsCoordinator. */
@@ -72,7 +89,8 @@ public:
     MessageStatisticsData &getFor(const FormatInfo *format, quint32 unknownNumber);
 
     std::vector<std::unique_ptr<MessageStatistics>> all;
-    std::array<quint32, 16> eventCounts{};
+    std::array<quint64, 16> eventCounts{};
+    StreamClock clock;
 
 private:
     MessageStatisticsData &addFor(const MessageInfo *message);

@@ -7,11 +7,19 @@
 #include "messageneedmanager.h"
 #include "messagestatisticsdata.h"
 
-#include <QDateTime>
-
 namespace corvane {
 
-static_assert(MessageStatisticsData::noTime == DecodedMessage::unknownTime);
+static_assert(Rhythm::noTime == DecodedMessage::unknownTime);
+
+namespace {
+
+/** What is equal for the log: the same message (type or id) of the same sender. */
+quint64 subjectOf(const FrameHeader &frame)
+{
+    return quint64(frame.senderId) << 32U | frame.messageNumber;
+}
+
+} // namespace
 
 Reception::Reception(const FormatInfo *format,
                      SenderTable::Namer senderNamer,
@@ -32,7 +40,7 @@ Reception::~Reception() = default;
 bool Reception::receiveFrame(const FrameHeader &frame)
 {
     ++totals.frames;
-    statistics.getData()->getFor(frame.messageInfo).count(frame.timeUs);
+    countIn(statistics.getData()->getFor(frame.messageInfo), frame);
     SenderStatistics &sender = senders.get(frame.senderId);
     const quint32 missing = sender.receive(frame.sequence);
     if (missing != 0)
@@ -49,11 +57,12 @@ void Reception::deliver(const Message *message)
 void Reception::receiveUnknownFrame(const FrameHeader &frame)
 {
     ++totals.unknownFrames;
-    statistics.getData()->getFor(format, frame.messageNumber).count(frame.timeUs);
-    addEvent(
-        CorvaneEvent::UnknownMessage,
-        tr("Unknown message: %1. Load the definitions that describe this id.").arg(describe(frame)),
-        frame.timeUs);
+    countIn(statistics.getData()->getFor(format, frame.messageNumber), frame);
+    noteEvent({CorvaneEvent::UnknownMessage, subjectOf(frame)}, frame.timeUs, [&] {
+        const QString subject = tr("Unknown message: %1").arg(describe(frame));
+        return EventGatherer::Text{
+            tr("%1. Load the definitions that describe this id.").arg(subject), subject};
+    });
     // The frame used up a number all the same. One that cannot be checked makes no new sender.
     SenderStatistics *sender = senders.find(frame.senderId);
     const quint32 missing = sender != nullptr ? sender->pass(frame.sequence) : 0;
@@ -65,35 +74,62 @@ void Reception::receiveDamagedFrame(const FrameHeader &frame, const QString &rea
 {
     if (totals.crcErrors)
         ++*totals.crcErrors;
-    ++senders.get(frame.senderId).crcErrors;
-    increment(statistics.getData()->getFor(frame.messageInfo).crcErrors);
-    addEvent(CorvaneEvent::CrcError, tr("CRC error: %1: %2").arg(describe(frame), reason),
-             frame.timeUs);
+    senders.get(frame.senderId).countCrcError(frame.messageInfo);
+    ++statistics.getData()->getFor(frame.messageInfo).crcErrors;
+    noteEvent({CorvaneEvent::CrcError, subjectOf(frame)}, frame.timeUs, [&] {
+        const QString subject = tr("CRC error: %1").arg(describe(frame));
+        return EventGatherer::Text{tr("%1: %2").arg(subject, reason), subject};
+    });
 }
 
 void Reception::skipBytes(quint64 position, quint64 count, qint64 timeUs)
 {
     totals.skippedBytes += count;
-    addEvent(CorvaneEvent::LostBytes,
-             tr("%1 bytes from offset %2 belong to no frame.").arg(count).arg(position), timeUs);
+    noteEvent({CorvaneEvent::LostBytes}, timeUs, [&] {
+        return EventGatherer::Text{
+            tr("%1 bytes from offset %2 belong to no frame.").arg(count).arg(position),
+            tr("Bytes that belong to no frame")};
+    });
 }
 
 void Reception::addEvent(CorvaneEvent::Type type, const QString &text, qint64 timeUs)
 {
-    increment(statistics.getData()->eventCounts.at(static_cast<size_t>(type)));
-    const bool known = timeUs != DecodedMessage::unknownTime;
-    const auto time = known ? QDateTime::fromMSecsSinceEpoch(timeUs / 1000, Qt::UTC) : QDateTime();
-    eventLog.addEntry({time, CorvaneEvent(type, text)});
+    const auto subject = static_cast<quint64>(qHash(text));
+    noteEvent({type, subject}, timeUs, [&] { return EventGatherer::Text{text, text}; });
+}
+
+void Reception::noteEvent(EventKind kind,
+                          qint64 timeUs,
+                          const std::function<EventGatherer::Text()> &makeText)
+{
+    ++statistics.getData()->eventCounts.at(static_cast<size_t>(kind.type));
+    gatherer.add(kind, timeUs, makeText);
+}
+
+void Reception::countIn(MessageStatisticsData &type, const FrameHeader &frame)
+{
+    if (frame.timeUs != Rhythm::noTime && !frame.hasOwnClock)
+        statistics.getData()->clock.latestUs = frame.timeUs;
+    type.count(frame);
+}
+
+void Reception::noteDiscontinuity()
+{
+    senders.forgetSequences();
+    for (const auto &type : statistics.getData()->all)
+        type->getData()->interrupt();
 }
 
 void Reception::reportLoss(const SenderStatistics &sender,
                            const FrameHeader &frame,
                            quint32 missing)
 {
-    addEvent(CorvaneEvent::SequenceGap,
-             tr("Sender %1: %2 messages lost before sequence number %3.")
-                 .arg(sender.id, QString::number(missing), QString::number(frame.sequence)),
-             frame.timeUs);
+    noteEvent({CorvaneEvent::SequenceGap, frame.senderId}, frame.timeUs, [&] {
+        return EventGatherer::Text{
+            tr("Sender %1: %2 messages lost before sequence number %3.")
+                .arg(sender.id, QString::number(missing), QString::number(frame.sequence)),
+            tr("Sender %1: messages lost").arg(sender.id)};
+    });
 }
 
 QString Reception::describe(const FrameHeader &frame)

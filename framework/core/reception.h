@@ -1,6 +1,7 @@
 #pragma once
 
 #include "corvaneframework_export.h"
+#include "eventgatherer.h"
 #include "eventlog.h"
 #include "messagesource.h"
 #include "messagestatisticscoordinator.h"
@@ -17,6 +18,7 @@ class MessageNeedManager;
 namespace corvane {
 
 class MessageNeedCounts;
+struct MessageStatisticsData;
 
 /** A frame as a frame reader found it. */
 struct FrameHeader
@@ -26,6 +28,7 @@ struct FrameHeader
     quint32 senderId = 0;
     quint8 sequence = 0;
     qint64 timeUs = 0; ///< Microseconds since 1970, or DecodedMessage::unknownTime.
+    bool hasOwnClock = false; ///< The time comes from a field and may count from anything.
 };
 
 /**
@@ -80,7 +83,16 @@ public:
     /** Any other event. \a timeUs: microseconds since 1970, or DecodedMessage::unknownTime. */
     void addEvent(CorvaneEvent::Type type, const QString &text, qint64 timeUs);
 
+    /** Lets events that were only counted so far enter the log; for the end of a stream. */
+    void flushEvents() { gatherer.flush(); }
+
+    /** What follows does not go on where the stream was: no losses, intervals or gaps to it. */
+    void noteDiscontinuity();
+
 private:
+    void
+    noteEvent(EventKind kind, qint64 timeUs, const std::function<EventGatherer::Text()> &makeText);
+    void countIn(MessageStatisticsData &type, const FrameHeader &frame);
     void reportLoss(const SenderStatistics &sender, const FrameHeader &frame, quint32 missing);
     QString describe(const FrameHeader &frame);
 
@@ -90,6 +102,7 @@ private:
     SenderTable senders;
     MessageStatisticsCoordinator statistics;
     EventLog eventLog;
+    EventGatherer gatherer{eventLog};
 };
 
 } // namespace corvane

@@ -24,6 +24,18 @@ quint32 SenderStatistics::pass(quint8 sequence)
     return missing;
 }
 
+void SenderStatistics::countCrcError(const MessageInfo *claimedType)
+{
+    ++crcErrors;
+    ++crcErrorsByType[claimedType];
+}
+
+void SenderTable::forgetSequences()
+{
+    for (const auto &sender : all)
+        sender->lastSequence.reset();
+}
+
 SenderTable::SenderTable(Namer namer)
     : namer(namer)
 {

@@ -10,6 +10,8 @@
 #include <optional>
 #include <vector>
 
+class MessageInfo;
+
 namespace corvane {
 
 /** What is known of one sender, by the sequence numbers of its good frames. */
@@ -19,12 +21,15 @@ struct CORVANEFRAMEWORK_EXPORT SenderStatistics
     quint32 receive(quint8 sequence);
     /** The same for a frame that cannot be checked, which is not counted as received. */
     quint32 pass(quint8 sequence);
+    /** Counts a damaged frame that claims to come from this sender and to be of that type. */
+    void countCrcError(const MessageInfo *claimedType);
 
     QString id; ///< As the format names its senders, such as "1/100".
     quint64 frames = 0;
     quint64 sequenceGaps = 0; ///< Places at which numbers are missing.
     quint64 lost = 0; ///< Numbers missing at these places, modulo 256 at each.
     quint64 crcErrors = 0; ///< Damaged frames that claim to come from this sender.
+    QHash<const MessageInfo *, quint64> crcErrorsByType; ///< By the types they claim to be of.
     std::optional<quint8> lastSequence;
 };
 
@@ -41,6 +46,9 @@ public:
     SenderStatistics &get(quint32 senderId);
     /** The sender of that id, or null where it has not been seen. */
     SenderStatistics *find(quint32 senderId) const;
+
+    /** The next frame of each sender follows on nothing that is known. */
+    void forgetSequences();
 
     QString nameOf(quint32 senderId) const { return namer(senderId); }
 

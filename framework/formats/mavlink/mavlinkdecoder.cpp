@@ -1,7 +1,9 @@
 #include "mavlinkdecoder.h"
 
+#include "descriptions.h"
 #include "mavlinkformat.h"
 #include "mavlinkmessage.h"
+#include "messageinfo.h"
 #include "reception.h"
 
 #include <QCoreApplication>
@@ -120,13 +122,28 @@ StreamDecoder::Step MavlinkDecoder::takeFrame(const MavlinkFrame &frame,
                                               const MavlinkMessageType &type)
 {
     // Followers of the reception may load further types, which moves the present ones.
-    const FrameHeader header = headerOf(frame, &type);
+    FrameHeader header = headerOf(frame, &type);
+    if (framing == MavlinkFraming::Raw && header.messageInfo->getData()->timeField != nullptr)
+        readTimeField(header, frame, bytes);
     reportSkipped();
     inStep = true;
     if (reception.receiveFrame(header))
         reception.deliver(MavlinkMessage::create(header.messageInfo, frame, bytes, header.timeUs));
     advance(getPrefixSize() + static_cast<size_t>(frame.getSize()));
     return Step::Advanced;
+}
+
+void MavlinkDecoder::readTimeField(FrameHeader &header,
+                                   const MavlinkFrame &frame,
+                                   QByteArrayView bytes)
+{
+    const MavlinkMessage *message
+        = MavlinkMessage::create(header.messageInfo, frame, bytes, header.timeUs);
+    if (const auto time = readOwnTimeUs(message)) {
+        header.timeUs = *time;
+        header.hasOwnClock = true;
+    }
+    message->removeReference();
 }
 
 StreamDecoder::Step MavlinkDecoder::takeDoubtful(const MavlinkFrame &frame,

@@ -69,6 +69,7 @@ private:
     bool canBeFrame(size_t begin) const;
     Outlook lookAround(const MavlinkFrame &doubtful) const;
     FrameHeader headerOf(const MavlinkFrame &frame, const MavlinkMessageType *type) const;
+    static void readTimeField(FrameHeader &header, const MavlinkFrame &frame, QByteArrayView bytes);
     Step takeFrame(const MavlinkFrame &frame, QByteArrayView bytes, const MavlinkMessageType &type);
     Step
     takeDoubtful(const MavlinkFrame &frame, QByteArrayView bytes, const MavlinkMessageType *type);

@@ -1,16 +1,39 @@
 #include "decodedmessage.h"
 #include "messagestatistics.h"
 #include "messagestatisticscoordinator.h"
+#include "messagestatisticsdata.h"
 #include "reception.h"
 #include "testcase.h"
 #include "testformat.h"
 
 using namespace corvane::test;
+using corvane::MessageStatisticsData;
 using corvane::Reception;
 
 namespace {
 
 constexpr qint64 noTime = corvane::DecodedMessage::unknownTime;
+constexpr qint64 ms = 1000;
+
+/** A reception of types A and B. */
+struct Scene
+{
+    void send(const char *type, quint32 sender, qint64 timeUs, bool hasOwnClock = false)
+    {
+        reception.receiveFrame(
+            {format.type(QLatin1String(type)), 0, sender, sequence++, timeUs, hasOwnClock});
+    }
+
+    /** Those of the first type that came. */
+    const MessageStatistics &statistics()
+    {
+        return *reception.getStatistics()->getAllMessageStatistics().constFirst();
+    }
+
+    const TestFormat format{"Demo", "A\nB\n"};
+    Reception reception{format.getInfo(), [](quint32) { return QString(); }, true};
+    quint8 sequence = 0;
+};
 
 } // namespace
 
@@ -21,6 +44,14 @@ class TestMessageStatistics : public TestCase
 private Q_SLOTS:
     void counts_byTime_data();
     void counts_byTime();
+    void report_ofARegularType();
+    void counts_staySaturated();
+    void intervals_mostFrequentFirst();
+    void senders_haveRhythmsOfTheirOwn();
+    void senders_tooMany_areCountedOnly();
+    void silentSender_isNotRegular();
+    void ownClock_isNotComparedWithOthers();
+    void discontinuity_inventsNothing();
     void description_isThatOfTheType();
     void eventCount_ofTypeWithoutEvents();
     void timeString_isUtc_data();
@@ -39,10 +70,11 @@ void TestMessageStatistics::counts_byTime_data()
     QTest::newRow("steady") << QList<qint64>{1'000'000, 1'050'000, 1'100'000} << 0U << 1U << 50ULL;
     QTest::newRow("one") << QList<qint64>{1'000'000} << 0U << 1U << 0ULL;
     QTest::newRow("no times") << QList<qint64>{noTime, noTime} << 2U << 0U << 0ULL;
-    QTest::newRow("some times") << QList<qint64>{0, noTime, 20'000} << 1U << 1U << 20ULL;
+    QTest::newRow("some times") << QList<qint64>{0, noTime, 20'000} << 1U << 2U << 0ULL;
     QTest::newRow("back in time") << QList<qint64>{50'000, 10'000, 40'000} << 0U << 2U << 30ULL;
     QTest::newRow("same time") << QList<qint64>{50'000, 50'000} << 0U << 1U << 0ULL;
-    QTest::newRow("long pause") << QList<qint64>{0, 86'400'000'000} << 0U << 1U << 86'400'000ULL;
+    QTest::newRow("long pause") << QList<qint64>{0, 36'000'000'000} << 0U << 1U << 36'000'000ULL;
+    QTest::newRow("clock was set") << QList<qint64>{0, 86'400'000'000} << 0U << 2U << 0ULL;
 }
 
 void TestMessageStatistics::counts_byTime()
@@ -64,6 +96,129 @@ void TestMessageStatistics::counts_byTime()
     QCOMPARE(statistics->getCountWithUnknownTime(), unknownTime);
     QCOMPARE(statistics->getCountWithKnownTimeButUnknownInterval(), unknownInterval);
     QCOMPARE(statistics->getLastInterval(), lastIntervalMs);
+}
+
+void TestMessageStatistics::report_ofARegularType()
+{
+    Scene scene;
+    for (int i = 0; i < 100; ++i)
+        if (i != 50)
+            scene.send("A", 1, i * 50 * ms);
+    const MessageStatistics &statistics = scene.statistics();
+    QCOMPARE(statistics.getCount(), 99U);
+    QVERIFY(statistics.isCurrentlyRegular());
+    QCOMPARE(statistics.getLastInterval(), 50ULL);
+    QCOMPARE(statistics.getNumberOfGaps(), 1U);
+    QCOMPARE(statistics.getNumberOfMissingEpochs(), 1U);
+    QVERIFY(!statistics.hasUnstoredGaps());
+    QCOMPARE(statistics.getGaps().size(), 1);
+    QCOMPARE(statistics.getGaps().constFirst().start, static_cast<quint64>(49 * 50));
+    const QHash<long long, unsigned int> counts{{50, 98}, {100, 1}};
+    QCOMPARE(statistics.getIntervalCountHash(), counts);
+}
+
+void TestMessageStatistics::counts_staySaturated()
+{
+    QCOMPARE(corvane::saturated<unsigned int>(0xffffffffULL), 0xffffffffU);
+    QCOMPARE(corvane::saturated<unsigned int>(0x100000000ULL), 0xffffffffU);
+    Scene scene;
+    scene.send("A", 1, 0);
+    MessageStatisticsData &data = *scene.statistics().getData();
+    constexpr quint64 many = 1ULL << 40U;
+    data.received = data.withUnknownTime = data.intervals.unknownIntervals = many;
+    data.intervals.gapCount = data.intervals.missingEpochs = many;
+    constexpr unsigned int most = 0xffffffffU;
+    QCOMPARE(scene.statistics().getCount(), most);
+    QCOMPARE(scene.statistics().getCountWithUnknownTime(), most);
+    QCOMPARE(scene.statistics().getCountWithKnownTimeButUnknownInterval(), most);
+    QCOMPARE(scene.statistics().getNumberOfMissingEpochs(), most);
+    QCOMPARE(scene.statistics().getNumberOfGaps(), 0x7fffffffU);
+    QVERIFY(scene.statistics().hasUnstoredGaps());
+}
+
+void TestMessageStatistics::intervals_mostFrequentFirst()
+{
+    Scene scene;
+    qint64 time = 0;
+    for (const int interval : {100, 20, 100, 2000, 20, 100, 500})
+        scene.send("A", 1, (time += interval) * ms);
+    scene.send("A", 1, time * ms);
+    const MessageStatistics &statistics = scene.statistics();
+    QCOMPARE(statistics.getIntervalsSortedOnFrequency(-1),
+             (QList<long long>{20, 100, 0, 500, 2000}));
+    QCOMPARE(statistics.getIntervalsSortedOnFrequency(2), (QList<long long>{20, 100}));
+    QCOMPARE(statistics.getIntervalsSortedOnFrequency(0), QList<long long>());
+    QCOMPARE(statistics.getIntervalCountHash().value(100), 2U);
+}
+
+void TestMessageStatistics::senders_haveRhythmsOfTheirOwn()
+{
+    Scene scene;
+    // Two senders of the same type, each every 100 ms, one shortly after the other.
+    for (int i = 0; i < 200; ++i) {
+        scene.send("A", 1, i * 100 * ms);
+        scene.send("A", 2, i * 100 * ms + 30 * ms);
+    }
+    const MessageStatistics &statistics = scene.statistics();
+    QCOMPARE(statistics.getCount(), 400U);
+    QCOMPARE(statistics.getIntervalCountHash(), (QHash<long long, unsigned int>{{100, 400}}));
+    QCOMPARE(statistics.getNumberOfGaps(), 0U);
+    QVERIFY(statistics.isCurrentlyRegular());
+    // One that comes irregularly makes the type irregular.
+    for (int i = 0; i < 20; ++i) {
+        scene.send("A", 1, (20'000 + i * 100) * ms);
+        scene.send("A", 3, (20'000 + i * i * 10) * ms);
+    }
+    QVERIFY(!statistics.isCurrentlyRegular());
+}
+
+void TestMessageStatistics::senders_tooMany_areCountedOnly()
+{
+    Scene scene;
+    for (int i = 0; i < 10; ++i)
+        for (quint32 sender = 0; sender < 65; ++sender)
+            scene.send("A", sender, (i * 1000 + sender) * ms);
+    QCOMPARE(scene.statistics().getCount(), 650U);
+    QCOMPARE(scene.statistics().getIntervalCountHash(),
+             (QHash<long long, unsigned int>{{1000, 640}}));
+    QCOMPARE(scene.statistics().getCountWithKnownTimeButUnknownInterval(), 10U);
+}
+
+void TestMessageStatistics::silentSender_isNotRegular()
+{
+    Scene scene;
+    for (int i = 0; i < 100; ++i)
+        scene.send("A", 1, i * 500 * ms);
+    scene.send("B", 1, (99 * 500 + 2500) * ms);
+    QVERIFY(scene.statistics().isCurrentlyRegular());
+    scene.send("B", 1, (99 * 500 + 2501) * ms);
+    QVERIFY(!scene.statistics().isCurrentlyRegular());
+    scene.send("A", 1, 100 * 500 * ms); // it goes on
+    QVERIFY(scene.statistics().isCurrentlyRegular());
+}
+
+void TestMessageStatistics::ownClock_isNotComparedWithOthers()
+{
+    Scene scene;
+    for (int i = 0; i < 100; ++i)
+        scene.send("A", 1, i * 500 * ms, true); // counts from its own start
+    scene.send("B", 1, 1'700'000'000'000 * ms);
+    QVERIFY(scene.statistics().isCurrentlyRegular());
+}
+
+void TestMessageStatistics::discontinuity_inventsNothing()
+{
+    Scene scene;
+    for (int i = 0; i < 100; ++i)
+        scene.send("A", 1, i * 50 * ms);
+    scene.reception.noteDiscontinuity();
+    scene.sequence = 77;
+    for (int i = 200; i < 300; ++i)
+        scene.send("A", 1, i * 50 * ms);
+    QCOMPARE(scene.statistics().getNumberOfGaps(), 0U);
+    QCOMPARE(scene.statistics().getIntervalCountHash(),
+             (QHash<long long, unsigned int>{{50, 200}}));
+    QCOMPARE(scene.reception.getSenders().getAll().front()->lost, 0U);
 }
 
 void TestMessageStatistics::description_isThatOfTheType()

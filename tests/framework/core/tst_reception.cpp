@@ -43,6 +43,11 @@ private Q_SLOTS:
     void losses_areLoggedPerSender();
     void skippedBytes_areCountedAndLogged();
     void events_carryTheirTime();
+    void damage_isCountedBySenderAndClaimedType();
+    void equalEvents_areGatheredBySecond();
+    void gathering_endsByItself();
+    void gathering_ofTooManyKinds_isOfOne();
+    void gathering_withoutTimes_goesByTheClockOnTheWall();
 
 private:
     FrameHeader frame(const char *type, quint8 sequence = 0, quint32 senderId = 1) const
@@ -60,6 +65,7 @@ private:
 
     static QStringList logOf(Reception &reception)
     {
+        reception.flushEvents();
         QStringList lines;
         for (const auto &entry : reception.getEventLog()->getEntries())
             lines += entry.event.getMessage();
@@ -246,6 +252,90 @@ void TestReception::events_carryTheirTime()
     QCOMPARE(entries.at(0).time, QDateTime::fromMSecsSinceEpoch(1500, Qt::UTC));
     QVERIFY(!entries.at(1).time.isValid());
     QCOMPARE(entries.at(1).event.getType(), CorvaneEvent::SourceClosed);
+}
+
+void TestReception::damage_isCountedBySenderAndClaimedType()
+{
+    Reception reception(format.getInfo(), nameOf, true);
+    reception.receiveDamagedFrame(frame("A", 0, 1), "one");
+    reception.receiveDamagedFrame(frame("B", 0, 1), "two");
+    reception.receiveDamagedFrame(frame("A", 0, 2), "three");
+    reception.receiveDamagedFrame(frame("A", 0, 1), "four");
+    const auto &senders = reception.getSenders().getAll();
+    QCOMPARE(senders.at(0)->crcErrors, 3U);
+    const QHash<const MessageInfo *, quint64> expected{{format.type("A"), 2},
+                                                       {format.type("B"), 1}};
+    QCOMPARE(senders.at(0)->crcErrorsByType, expected);
+    QCOMPARE(senders.at(1)->crcErrorsByType.value(format.type("A")), 1U);
+}
+
+void TestReception::equalEvents_areGatheredBySecond()
+{
+    Reception reception(format.getInfo(), nameOf, true);
+    const QSignalSpy entries(reception.getEventLog(), &EventLog::newEntry);
+    FrameHeader damaged = frame("A");
+    for (int i = 0; i < 2000; ++i) {
+        damaged.timeUs = 5'000'000 + i * 500; // all within one second
+        reception.receiveDamagedFrame(damaged, QStringLiteral("number %1").arg(i));
+    }
+    QCOMPARE(entries.size(), 1);
+    damaged.senderId = 2;
+    reception.receiveDamagedFrame(damaged, "of another sender");
+    QCOMPARE(entries.size(), 2);
+    damaged.timeUs = 6'000'000;
+    reception.receiveDamagedFrame(damaged, "a second later");
+    QCOMPARE(logOf(reception),
+             (QStringList{"CRC error: A from sender 1/1: number 0",
+                          "CRC error: A from sender 2/1: of another sender",
+                          "CRC error: A from sender 1/1: 1999 more in the same second",
+                          "CRC error: A from sender 2/1: a second later"}));
+    const auto summary = reception.getEventLog()->getEntries().at(2);
+    QCOMPARE(summary.time, QDateTime::fromMSecsSinceEpoch(5999, Qt::UTC));
+    QCOMPARE(summary.event.getType(), CorvaneEvent::CrcError);
+    QCOMPARE(reception.getStatistics()->getEventCount(CorvaneEvent::CrcError), 2002U);
+    // A clock that was set back begins a new second.
+    damaged.timeUs = 1'000'000;
+    reception.receiveDamagedFrame(damaged, "earlier");
+    QCOMPARE(logOf(reception).constLast(), "CRC error: A from sender 2/1: earlier");
+}
+
+void TestReception::gathering_endsByItself()
+{
+    Reception reception(format.getInfo(), nameOf, true);
+    reception.skipBytes(0, 1, 1'500'000);
+    reception.skipBytes(5, 1, 1'600'000);
+    QCOMPARE(reception.getEventLog()->getEntries().size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(reception.getEventLog()->getEntries().size(), 2, 3000);
+    QCOMPARE(reception.getEventLog()->getEntries().constLast().event.getMessage(),
+             "Bytes that belong to no frame: 1 more in the same second");
+}
+
+void TestReception::gathering_ofTooManyKinds_isOfOne()
+{
+    Reception reception(format.getInfo(), nameOf, true);
+    for (quint32 id = 0; id < 5000; ++id)
+        reception.receiveUnknownFrame({nullptr, id, 1, 0, 1'500'000});
+    reception.skipBytes(0, 1, 1'500'000); // another sort is not among them
+    const QStringList log = logOf(reception);
+    QCOMPARE(log.size(), 64 + 1 + 1 + 1);
+    QVERIFY(log.at(64).contains("id 64 "));
+    QCOMPARE(log.at(65), "1 bytes from offset 0 belong to no frame.");
+    QCOMPARE(log.at(66), "Unknown messages of various ids: 4935 more in the same second");
+    QCOMPARE(reception.getStatistics()->getEventCount(CorvaneEvent::UnknownMessage), 5000U);
+}
+
+void TestReception::gathering_withoutTimes_goesByTheClockOnTheWall()
+{
+    Reception reception(format.getInfo(), nameOf, true);
+    reception.skipBytes(0, 1, noTime);
+    reception.skipBytes(5, 1, noTime);
+    QCOMPARE(reception.getEventLog()->getEntries().size(), 1);
+    QTest::qSleep(1050);
+    reception.skipBytes(9, 1, noTime);
+    const auto entries = reception.getEventLog()->getEntries();
+    QCOMPARE(entries.size(), 3);
+    QVERIFY(!entries.at(1).time.isValid());
+    QCOMPARE(entries.at(2).event.getMessage(), "1 bytes from offset 9 belong to no frame.");
 }
 
 CORVANE_TEST_MAIN(TestReception)

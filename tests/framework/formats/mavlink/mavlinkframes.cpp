@@ -179,6 +179,7 @@ void DecoderRun::finish()
 
 QStringList DecoderRun::getEvents(std::optional<CorvaneEvent::Type> type)
 {
+    reception.flushEvents();
     QStringList texts;
     const auto entries = reception.getEventLog()->getEntries();
     for (const EventLog::Entry &entry : entries)

@@ -1,0 +1,94 @@
+#include "intervalstatistics.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvane {
+
+namespace {
+
+constexpr std::array<qint64, 27> roundValuesMs{
+    0,         1,         2,         5,          10,         20,        50,
+    100,       200,       500,       1'000,      2'000,      5'000,     10'000,
+    20'000,    30'000,    60'000,    120'000,    300'000,    600'000,   1'200'000,
+    1'800'000, 3'600'000, 7'200'000, 18'000'000, 36'000'000, 43'200'000};
+
+/** How far two intervals are from each other, as people see it: by their ratio. */
+double distance(double leftMs, double rightMs)
+{
+    constexpr double aboutNothing = 0.1; // so that 0 ms has a place on the scale
+    return std::abs(std::log((leftMs + aboutNothing) / (rightMs + aboutNothing)));
+}
+
+} // namespace
+
+quint8 IntervalStatistics::getClass(qint64 ms)
+{
+    const auto end = classes.begin() + classCount;
+    const auto found
+        = std::find_if(classes.begin(), end, [&](const Class &known) { return known.ms == ms; });
+    if (found != end)
+        return static_cast<quint8>(found - classes.begin());
+    if (classCount < maximumClasses) {
+        classes[classCount].ms = ms;
+        return classCount++;
+    }
+    const auto nearest
+        = std::min_element(classes.begin(), end, [&](const Class &left, const Class &right) {
+              return distance(static_cast<double>(left.ms), static_cast<double>(ms))
+                     < distance(static_cast<double>(right.ms), static_cast<double>(ms));
+          });
+    return static_cast<quint8>(nearest - classes.begin());
+}
+
+quint8 IntervalStatistics::getRoundClass(qint64 us)
+{
+    if (us == 0)
+        return getClass(0);
+    // Between two round values the geometric mean decides; only equal times are 0.
+    const double ms = static_cast<double>(us) / 1000.0;
+    const auto above = std::upper_bound(roundValuesMs.begin() + 1, roundValuesMs.end(), ms);
+    if (above == roundValuesMs.end())
+        return getClass(roundValuesMs.back());
+    if (above == roundValuesMs.begin() + 1)
+        return getClass(*above);
+    const qint64 below = *(above - 1);
+    const bool nearerAbove = ms * ms > static_cast<double>(below) * static_cast<double>(*above);
+    return getClass(nearerAbove ? *above : below);
+}
+
+void IntervalStatistics::addGap(const MessageStatistics::Gap &gap)
+{
+    ++gapCount;
+    missingEpochs += gap.missingEpochs;
+    if (gaps.size() < maximumGaps)
+        gaps.append(gap);
+}
+
+void IntervalStatistics::fillGap(const MessageStatistics::Gap &gap)
+{
+    const bool disappears = gap.missingEpochs == 1;
+    --missingEpochs;
+    if (disappears)
+        --gapCount;
+    const qsizetype place = gaps.lastIndexOf(gap);
+    if (place < 0)
+        return;
+    if (disappears)
+        gaps.remove(place);
+    else
+        --gaps[place].missingEpochs;
+}
+
+QList<IntervalStatistics::Class> IntervalStatistics::getClasses() const
+{
+    QList<Class> result;
+    std::copy_if(classes.begin(), classes.begin() + classCount, std::back_inserter(result),
+                 [](const Class &known) { return known.count != 0; });
+    std::sort(result.begin(), result.end(), [](const Class &left, const Class &right) {
+        return left.count != right.count ? left.count > right.count : left.ms < right.ms;
+    });
+    return result;
+}
+
+} // namespace corvane

@@ -1,0 +1,70 @@
+#include "messagestatisticsdata.h"
+
+#include "reception.h"
+
+namespace corvane {
+
+void MessageStatisticsData::count(const FrameHeader &frame)
+{
+    ++received;
+    Sender *sender = findSender(frame.senderId);
+    if (frame.timeUs == Rhythm::noTime) {
+        ++withUnknownTime;
+        if (sender != nullptr)
+            sender->rhythm.interrupt();
+    } else if (sender != nullptr) {
+        sender->hasOwnClock = frame.hasOwnClock;
+        sender->rhythm.addMessage(frame.timeUs, intervals);
+    } else {
+        ++intervals.unknownIntervals;
+    }
+}
+
+MessageStatisticsData::Sender *MessageStatisticsData::findSender(quint32 id)
+{
+    if (latestSender < senders.size() && senders[latestSender].id == id)
+        return &senders[latestSender];
+    const auto found = std::find_if(senders.begin(), senders.end(),
+                                    [&](const Sender &sender) { return sender.id == id; });
+    if (found == senders.end() && senders.size() == maximumSenders)
+        return nullptr;
+    latestSender = static_cast<size_t>(found - senders.begin());
+    if (found == senders.end())
+        senders.push_back({id, false, {}});
+    return &senders[latestSender];
+}
+
+void MessageStatisticsData::interrupt()
+{
+    for (Sender &sender : senders)
+        sender.rhythm.interrupt();
+}
+
+bool MessageStatisticsData::isRegular() const
+{
+    bool anyActive = false;
+    for (const Sender &sender : senders) {
+        if (!isActive(sender))
+            continue;
+        anyActive = true;
+        if (!sender.rhythm.isRegular())
+            return false;
+    }
+    return anyActive;
+}
+
+bool MessageStatisticsData::isActive(const Sender &sender) const
+{
+    // A sender that fell silent is told by the clock of the stream, which others keep going.
+    constexpr double longestSilence = 5; // periods
+    constexpr double shortestSilenceUs = 2e6;
+    const qint64 lastUs = sender.rhythm.getLastTimeUs();
+    if (lastUs == Rhythm::noTime)
+        return sender.rhythm.isRegular();
+    if (sender.hasOwnClock || clock->latestUs == Rhythm::noTime)
+        return true;
+    const auto silenceUs = static_cast<double>(clock->latestUs - lastUs);
+    return silenceUs <= std::max(longestSilence * sender.rhythm.getPeriodUs(), shortestSilenceUs);
+}
+
+} // namespace corvane

@@ -1,0 +1,547 @@
+#include "intervalstatistics.h"
+#include "rhythm.h"
+#include "testcase.h"
+
+#include <QRandomGenerator>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+using namespace corvane::test;
+using corvane::IntervalStatistics;
+using corvane::Rhythm;
+
+namespace {
+
+constexpr qint64 ms = 1000;
+constexpr qint64 second = 1000 * ms;
+constexpr qint64 beginning = 1'700'000'000 * second;
+
+/** One sender's stream, and what was found in it. */
+struct Stream
+{
+    void send(qint64 timeUs)
+    {
+        ++sent;
+        rhythm.addMessage(timeUs, statistics);
+    }
+
+    /** \a count messages every \a period, the next one that far behind the latest. */
+    void sendRegularly(int count, qint64 period)
+    {
+        for (int i = 0; i < count; ++i)
+            send(rhythm.getLastTimeUs() == Rhythm::noTime ? beginning
+                                                          : rhythm.getLastTimeUs() + period);
+    }
+
+    /** "ms: count" of each class, most frequent first. */
+    QStringList classes() const
+    {
+        QStringList texts;
+        for (const auto &known : statistics.getClasses())
+            texts += QStringLiteral("%1: %2").arg(known.ms).arg(known.count);
+        return texts;
+    }
+
+    /** Whether each message is in one class or in none. */
+    bool addsUp() const
+    {
+        quint64 sum = statistics.unknownIntervals;
+        for (const auto &known : statistics.getClasses())
+            sum += known.count;
+        return sum == sent;
+    }
+
+    IntervalStatistics statistics;
+    Rhythm rhythm;
+    quint64 sent = 0;
+};
+
+/** Normally distributed, by the polar form of Box and Muller. */
+double gaussian(QRandomGenerator &random)
+{
+    const double radius = std::sqrt(-2.0 * std::log(1.0 - random.generateDouble()));
+    return radius * std::cos(2.0 * M_PI * random.generateDouble());
+}
+
+} // namespace
+
+class TestRhythm : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void regular_showsAsOneInterval_data();
+    void regular_showsAsOneInterval();
+    void jitter_showsAsOneInterval_data();
+    void jitter_showsAsOneInterval();
+    void few_areNotRegularYet();
+    void randomMoments_areNeverRegular_data();
+    void randomMoments_areNeverRegular();
+    void bursts_areNeverRegular();
+    void oddPeriods_areNamed_data();
+    void oddPeriods_areNamed();
+    void changeOfRate_isFollowed_data();
+    void changeOfRate_isFollowed();
+    void slowDrift_isFollowed();
+    void removedMessages_areFound_data();
+    void removedMessages_areFound();
+    void everySecondRemoved_isHalfTheRate();
+    void removedRuns_areFound();
+    void removedFromJitter_areFound();
+    void lateMessages_areNoGaps();
+    void silenceAtTheEnd_isNoGap();
+    void otherRateForAWhile_isNoGap();
+    void gap_tellsWhereItIs();
+    void equalTimes_areCountedApart();
+    void backInTime_isUnknown();
+    void clockStep_isUnknown_data();
+    void clockStep_isUnknown();
+    void interruption_isUnknown();
+    void irregular_isFiledUnderRoundValues_data();
+    void irregular_isFiledUnderRoundValues();
+    void classes_areLimited();
+    void gaps_areLimitedButCounted();
+    void lateMessage_takesAGapBack();
+};
+
+void TestRhythm::regular_showsAsOneInterval_data()
+{
+    QTest::addColumn<qint64>("period");
+    for (const int rate : {1, 5, 10, 20, 50, 100, 1000})
+        QTest::addRow("%d Hz", rate) << second / rate;
+    for (const int seconds : {1, 5, 60, 3600})
+        QTest::addRow("%d s", seconds) << seconds * second;
+}
+
+void TestRhythm::regular_showsAsOneInterval()
+{
+    QFETCH(qint64, period);
+    Stream stream;
+    stream.sendRegularly(500, period);
+    QCOMPARE(stream.classes(), QStringList{QStringLiteral("%1: 500").arg(period / ms)});
+    QCOMPARE(stream.statistics.unknownIntervals, 0U);
+    QCOMPARE(stream.statistics.gapCount, 0U);
+    QVERIFY(stream.rhythm.isRegular());
+    QCOMPARE(stream.rhythm.getIntervalMs(), static_cast<quint64>(period / ms));
+}
+
+void TestRhythm::jitter_showsAsOneInterval_data()
+{
+    QTest::addColumn<double>("jitter");
+    QTest::newRow("1 %") << 0.01;
+    QTest::newRow("5 %") << 0.05;
+    QTest::newRow("10 %") << 0.1;
+}
+
+void TestRhythm::jitter_showsAsOneInterval()
+{
+    QFETCH(double, jitter);
+    QRandomGenerator random(1);
+    for (const int rate : {1, 5, 10, 20, 50, 100}) {
+        Stream stream;
+        const double period = static_cast<double>(second) / rate;
+        for (int i = 0; i < 5000; ++i) {
+            const double late = std::clamp(gaussian(random), -3.0, 3.0) * jitter * period;
+            stream.send(beginning + std::llround(i * period + late));
+        }
+        const auto classes = stream.statistics.getClasses();
+        QCOMPARE(classes.constFirst().ms, 1000 / rate);
+        QVERIFY2(classes.constFirst().count >= 4900, qPrintable(stream.classes().join(", ")));
+        QCOMPARE(stream.statistics.gapCount, 0U);
+        QVERIFY(stream.rhythm.isRegular());
+        QVERIFY(stream.addsUp());
+    }
+}
+
+void TestRhythm::few_areNotRegularYet()
+{
+    Stream stream;
+    stream.sendRegularly(5, second);
+    QVERIFY(!stream.rhythm.isRegular());
+    QCOMPARE(stream.statistics.unknownIntervals, 1U);
+    stream.sendRegularly(1, second);
+    QVERIFY(stream.rhythm.isRegular());
+    QCOMPARE(stream.statistics.unknownIntervals, 0U); // the first one is part of it
+    Stream fast;
+    fast.sendRegularly(8, 20 * ms);
+    QVERIFY(!fast.rhythm.isRegular());
+    fast.sendRegularly(1, 20 * ms);
+    QVERIFY(fast.rhythm.isRegular());
+}
+
+void TestRhythm::randomMoments_areNeverRegular_data()
+{
+    QTest::addColumn<double>("mean");
+    QTest::addColumn<qint64>("resolution");
+    QTest::newRow("50 ms") << 50.0 * ms << qint64(1);
+    QTest::newRow("1 s") << 1000.0 * ms << qint64(1);
+    QTest::newRow("50 ms in whole milliseconds") << 50.0 * ms << ms;
+    QTest::newRow("5 ms in whole milliseconds") << 5.0 * ms << ms;
+}
+
+void TestRhythm::randomMoments_areNeverRegular()
+{
+    QFETCH(double, mean);
+    QFETCH(qint64, resolution);
+    for (quint32 seed = 1; seed <= 40; ++seed) {
+        QRandomGenerator random(seed);
+        Stream stream;
+        double time = 0;
+        for (int i = 0; i < 5000; ++i) {
+            time += -mean * std::log(1.0 - random.generateDouble());
+            stream.send(beginning + std::llround(time) / resolution * resolution);
+            QVERIFY2(!stream.rhythm.isRegular(),
+                     qPrintable(QStringLiteral("seed %1, message %2").arg(seed).arg(i)));
+        }
+        QCOMPARE(stream.statistics.gapCount, 0U);
+        QVERIFY(stream.addsUp());
+    }
+}
+
+void TestRhythm::bursts_areNeverRegular()
+{
+    Stream stream;
+    for (int i = 0; i < 500; ++i)
+        for (int j = 0; j < 6; ++j) {
+            stream.send(beginning + i * second + j * ms);
+            QVERIFY(!stream.rhythm.isRegular());
+        }
+    QCOMPARE(stream.statistics.gapCount, 0U);
+}
+
+void TestRhythm::oddPeriods_areNamed_data()
+{
+    QTest::addColumn<qint64>("periodUs");
+    QTest::addColumn<int>("named");
+    QTest::newRow("30 Hz") << qint64(33'333) << 33;
+    QTest::newRow("about 20 Hz") << qint64(49'600) << 50;
+    QTest::newRow("about 260 ms") << qint64(258'600) << 260;
+    QTest::newRow("27 Hz") << qint64(37'100) << 37;
+    QTest::newRow("about 5 s") << qint64(5'030'000) << 5000;
+    QTest::newRow("5.5 s") << qint64(5'500'000) << 5500;
+    QTest::newRow("17.24 s") << qint64(17'243'000) << 17000;
+    QTest::newRow("faster than a millisecond") << qint64(200) << 1;
+}
+
+void TestRhythm::oddPeriods_areNamed()
+{
+    QFETCH(qint64, periodUs);
+    QFETCH(int, named);
+    Stream stream;
+    stream.sendRegularly(200, periodUs);
+    QCOMPARE(stream.classes(), QStringList{QStringLiteral("%1: 200").arg(named)});
+}
+
+void TestRhythm::changeOfRate_isFollowed_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("after");
+    QTest::newRow("half") << 50 << 100;
+    QTest::newRow("twice") << 100 << 50;
+    QTest::newRow("a little slower") << 50 << 70;
+    QTest::newRow("a little faster") << 100 << 80;
+    QTest::newRow("much slower") << 20 << 1000;
+    QTest::newRow("much faster") << 1000 << 20;
+}
+
+void TestRhythm::changeOfRate_isFollowed()
+{
+    QFETCH(int, before);
+    QFETCH(int, after);
+    Stream stream;
+    stream.sendRegularly(300, before * ms);
+    stream.sendRegularly(300, after * ms);
+    QVERIFY(stream.rhythm.isRegular());
+    QCOMPARE(stream.rhythm.getIntervalMs(), static_cast<quint64>(after));
+    QCOMPARE(stream.statistics.gapCount, 0U);
+    const auto classes = stream.statistics.getClasses();
+    QVERIFY2(classes.at(0).count >= 295 && classes.at(1).count >= 295,
+             qPrintable(stream.classes().join(", ")));
+    QVERIFY(stream.addsUp());
+}
+
+void TestRhythm::slowDrift_isFollowed()
+{
+    Stream stream;
+    double time = 0;
+    for (int i = 0; i < 4000; ++i) {
+        stream.send(beginning + std::llround(time));
+        time += 50'000.0 * (1.0 + i / 8000.0); // in the end 1.5 times as slow
+    }
+    QVERIFY(stream.rhythm.isRegular());
+    QVERIFY(stream.rhythm.getIntervalMs() >= 67);
+    QCOMPARE(stream.statistics.gapCount, 0U);
+    QVERIFY(stream.addsUp());
+}
+
+void TestRhythm::removedMessages_areFound_data()
+{
+    QTest::addColumn<int>("every");
+    for (const int every : {3, 4, 5, 7, 10, 33, 100})
+        QTest::addRow("every %dth", every) << every;
+}
+
+void TestRhythm::removedMessages_areFound()
+{
+    QFETCH(int, every);
+    for (const qint64 period : {10 * ms, 50 * ms, second, 60 * second}) {
+        Stream stream;
+        quint64 removed = 0;
+        QList<quint64> starts;
+        for (int i = 0; i < 1000; ++i) {
+            if (i % every == every - 1) {
+                removed += i < 998 ? 1 : 0; // the rhythm has to go on behind it
+                starts.append(static_cast<quint64>((beginning + (i - 1) * period) / ms));
+            } else {
+                stream.send(beginning + i * period);
+            }
+        }
+        QCOMPARE(stream.statistics.gapCount, removed);
+        QCOMPARE(stream.statistics.missingEpochs, removed);
+        for (qsizetype i = 0; i < stream.statistics.gaps.size(); ++i) {
+            QCOMPARE(stream.statistics.gaps.at(i).start, starts.at(i));
+            QCOMPARE(stream.statistics.gaps.at(i).missingEpochs, 1U);
+            QCOMPARE(stream.statistics.gaps.at(i).interval, period / ms);
+        }
+        QVERIFY(stream.rhythm.isRegular());
+        QVERIFY(stream.addsUp());
+    }
+}
+
+void TestRhythm::everySecondRemoved_isHalfTheRate()
+{
+    Stream stream;
+    for (int i = 0; i < 1000; i += 2)
+        stream.send(beginning + i * 50 * ms);
+    QCOMPARE(stream.classes(), QStringList{"100: 500"});
+    QCOMPARE(stream.statistics.gapCount, 0U);
+}
+
+void TestRhythm::removedRuns_areFound()
+{
+    QRandomGenerator random(5);
+    Stream stream;
+    quint64 gaps = 0;
+    quint64 removed = 0;
+    int epoch = 0;
+    while (epoch < 20'000) {
+        for (int i = 10 + random.bounded(100); i > 0; --i)
+            stream.send(beginning + epoch++ * 20 * ms);
+        const int missing = 1 + random.bounded(50);
+        epoch += missing;
+        removed += static_cast<quint64>(missing);
+        ++gaps;
+    }
+    stream.sendRegularly(1, 20 * ms); // behind the last gap: hides it, since it is not in rhythm
+    QVERIFY(gaps > 200);
+    QCOMPARE(stream.statistics.gapCount, gaps - 1);
+    QVERIFY(stream.statistics.missingEpochs < removed);
+    QVERIFY(stream.statistics.missingEpochs >= removed - 50);
+}
+
+void TestRhythm::removedFromJitter_areFound()
+{
+    QRandomGenerator random(7);
+    for (const int every : {10, 25, 100}) {
+        Stream stream;
+        quint64 removed = 0;
+        for (int i = 0; i < 5000; ++i) {
+            if (i % every == every - 1 && i < 4999) {
+                ++removed;
+                continue;
+            }
+            const double late = std::clamp(gaussian(random), -3.0, 3.0) * 0.06 * 50 * ms;
+            stream.send(beginning + i * 50 * ms + std::llround(late));
+        }
+        QCOMPARE(stream.statistics.gapCount, removed);
+        QCOMPARE(stream.statistics.missingEpochs, removed);
+    }
+}
+
+void TestRhythm::lateMessages_areNoGaps()
+{
+    // A network that holds a few messages back and then lets them through at once.
+    Stream stream;
+    qint64 latest = 0;
+    for (int i = 0; i < 2000; ++i) {
+        const qint64 due = beginning + i * 50 * ms + (i % 7) * ms;
+        const int heldUntil = i % 97 < 4 ? i - i % 97 + 4 : i;
+        latest = std::max(latest, std::max(due, beginning + heldUntil * 50 * ms));
+        stream.send(latest);
+    }
+    QCOMPARE(stream.statistics.gapCount, 0U);
+    QCOMPARE(stream.statistics.gaps.size(), 0);
+    QVERIFY(stream.rhythm.isRegular());
+    QVERIFY(stream.addsUp());
+}
+
+void TestRhythm::silenceAtTheEnd_isNoGap()
+{
+    Stream stream;
+    stream.sendRegularly(100, 50 * ms);
+    stream.sendRegularly(1, second);
+    QCOMPARE(stream.statistics.gapCount, 0U); // nothing says yet that the rhythm goes on
+    stream.sendRegularly(1, 50 * ms);
+    QCOMPARE(stream.statistics.gapCount, 1U);
+    QCOMPARE(stream.statistics.missingEpochs, 19U);
+}
+
+void TestRhythm::otherRateForAWhile_isNoGap()
+{
+    Stream stream;
+    stream.sendRegularly(100, 50 * ms);
+    stream.sendRegularly(6, 100 * ms);
+    stream.sendRegularly(100, 50 * ms);
+    QCOMPARE(stream.statistics.gapCount, 0U);
+    QVERIFY(stream.rhythm.isRegular());
+}
+
+void TestRhythm::gap_tellsWhereItIs()
+{
+    Stream stream;
+    stream.sendRegularly(50, 50 * ms);
+    const qint64 start = stream.rhythm.getLastTimeUs();
+    stream.sendRegularly(1, 200 * ms);
+    stream.sendRegularly(50, 50 * ms);
+    const MessageStatistics::Gap expected{static_cast<quint64>(start / ms), 3, 50};
+    QCOMPARE(stream.statistics.gaps.size(), 1);
+    QVERIFY(stream.statistics.gaps.constFirst() == expected);
+    QCOMPARE(stream.classes(), (QStringList{"50: 100", "200: 1"}));
+}
+
+void TestRhythm::equalTimes_areCountedApart()
+{
+    Stream stream;
+    for (int i = 0; i < 100; ++i)
+        stream.send(beginning);
+    QCOMPARE(stream.classes(), QStringList{"0: 99"});
+    QVERIFY(!stream.rhythm.isRegular());
+    QCOMPARE(stream.statistics.unknownIntervals, 1U);
+}
+
+void TestRhythm::backInTime_isUnknown()
+{
+    Stream stream;
+    stream.sendRegularly(100, 50 * ms);
+    stream.send(beginning);
+    QCOMPARE(stream.statistics.unknownIntervals, 1U);
+    QVERIFY(stream.rhythm.isRegular());
+    stream.sendRegularly(99, 50 * ms);
+    // The rhythm goes on behind it, so the message has its place there.
+    QCOMPARE(stream.statistics.unknownIntervals, 0U);
+    QCOMPARE(stream.statistics.gapCount, 0U);
+    QCOMPARE(stream.classes(), QStringList{"50: 200"});
+}
+
+void TestRhythm::clockStep_isUnknown_data()
+{
+    QTest::addColumn<qint64>("step");
+    QTest::newRow("a day") << 24 * 3600 * second;
+    QTest::newRow("12 hours") << 12 * 3600 * second;
+    QTest::newRow("to 1970") << -beginning;
+}
+
+void TestRhythm::clockStep_isUnknown()
+{
+    QFETCH(qint64, step);
+    Stream stream;
+    stream.sendRegularly(100, 50 * ms);
+    stream.send(stream.rhythm.getLastTimeUs() + step);
+    QCOMPARE(stream.statistics.unknownIntervals, 1U);
+    stream.sendRegularly(50, 50 * ms);
+    QCOMPARE(stream.statistics.gapCount, 0U);
+    QCOMPARE(stream.classes(), QStringList{"50: 151"});
+    // Just below half a day it is a hole.
+    stream.sendRegularly(1, 12 * 3600 * second - 50 * ms);
+    stream.sendRegularly(50, 50 * ms);
+    QCOMPARE(stream.statistics.gapCount, 1U);
+    QCOMPARE(stream.statistics.missingEpochs, 12U * 3600 * 20 - 2);
+}
+
+void TestRhythm::interruption_isUnknown()
+{
+    Stream stream;
+    stream.sendRegularly(100, 50 * ms);
+    const qint64 time = stream.rhythm.getLastTimeUs();
+    stream.rhythm.interrupt();
+    stream.send(time + 3 * second);
+    QCOMPARE(stream.statistics.unknownIntervals, 1U);
+    QVERIFY(stream.rhythm.isRegular());
+    stream.sendRegularly(1, 50 * ms);
+    QCOMPARE(stream.statistics.gapCount, 0U);
+    QCOMPARE(stream.classes(), QStringList{"50: 102"});
+}
+
+void TestRhythm::irregular_isFiledUnderRoundValues_data()
+{
+    QTest::addColumn<qint64>("intervalUs");
+    QTest::addColumn<QString>("filed");
+    QTest::newRow("half a millisecond") << qint64(500) << "1: 1";
+    QTest::newRow("1.4 ms") << qint64(1400) << "1: 1";
+    QTest::newRow("1.5 ms") << qint64(1500) << "2: 1";
+    QTest::newRow("70 ms") << 70 * ms << "50: 1";
+    QTest::newRow("71 ms") << 71 * ms << "100: 1";
+    QTest::newRow("100 ms") << 100 * ms << "100: 1";
+    QTest::newRow("50 s") << 50 * second << "60000: 1";
+    QTest::newRow("11 hours") << 11 * 3600 * second << "43200000: 1";
+}
+
+void TestRhythm::irregular_isFiledUnderRoundValues()
+{
+    QFETCH(qint64, intervalUs);
+    QFETCH(QString, filed);
+    Stream stream;
+    stream.send(beginning);
+    stream.send(beginning + intervalUs);
+    QCOMPARE(stream.classes(), QStringList{filed});
+    QCOMPARE(stream.statistics.unknownIntervals, 1U);
+}
+
+void TestRhythm::classes_areLimited()
+{
+    IntervalStatistics statistics;
+    for (int i = 0; i < 64; ++i)
+        statistics.add(statistics.getClass(100 + i));
+    QCOMPARE(statistics.getClasses().size(), 64);
+    statistics.add(statistics.getClass(5000)); // there is no room: the nearest one
+    statistics.add(statistics.getClass(7));
+    statistics.add(statistics.getClass(110));
+    const auto classes = statistics.getClasses();
+    QCOMPARE(classes.size(), 64);
+    QList<qint64> twice;
+    for (const auto &known : classes)
+        if (known.count == 2)
+            twice.append(known.ms);
+    QCOMPARE(twice, (QList<qint64>{100, 110, 163}));
+}
+
+void TestRhythm::gaps_areLimitedButCounted()
+{
+    IntervalStatistics statistics;
+    for (quint64 i = 0; i < 1500; ++i)
+        statistics.addGap({i, 2, 10});
+    QCOMPARE(statistics.gaps.size(), 1000);
+    QCOMPARE(statistics.gaps.constLast().start, 999U);
+    QCOMPARE(statistics.gapCount, 1500U);
+    QCOMPARE(statistics.missingEpochs, 3000U);
+}
+
+void TestRhythm::lateMessage_takesAGapBack()
+{
+    IntervalStatistics statistics;
+    statistics.addGap({1, 2, 10});
+    statistics.addGap({5, 1, 10});
+    statistics.fillGap({1, 2, 10});
+    QCOMPARE(statistics.gapCount, 2U);
+    QCOMPARE(statistics.missingEpochs, 2U);
+    QCOMPARE(statistics.gaps.constFirst().missingEpochs, 1U);
+    statistics.fillGap({5, 1, 10});
+    QCOMPARE(statistics.gapCount, 1U);
+    QCOMPARE(statistics.gaps.size(), 1);
+    QCOMPARE(statistics.gaps.constFirst().start, 1U);
+}
+
+CORVANE_TEST_MAIN(TestRhythm)
+#include "tst_rhythm.moc"
