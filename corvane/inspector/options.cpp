@@ -39,6 +39,9 @@ constexpr std::array optionTexts{
     OptionText{"version", nullptr, "Print the version."},
 };
 
+const QStringList knownFramings{QStringLiteral("auto"), QStringLiteral("raw"),
+                                QStringLiteral("tlog")};
+
 void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(tr("Shows the decoded messages of a binary stream, live."));
@@ -96,12 +99,10 @@ private:
 
     void readFraming()
     {
-        const QString text = parser.value(QStringLiteral("framing"));
-        if (text == QLatin1String("raw"))
-            options.framing = MavlinkFraming::Raw;
-        else if (text == QLatin1String("tlog"))
-            options.framing = MavlinkFraming::TimeStamped;
-        else if (!text.isEmpty() && text != QLatin1String("auto"))
+        if (!parser.isSet(QStringLiteral("framing")))
+            return;
+        options.framing = parser.value(QStringLiteral("framing"));
+        if (!knownFramings.contains(options.framing))
             complainOfValue("framing", tr("auto, raw or tlog"));
     }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "mavlinkdecoder.h"
 #include "sourceaddress.h"
 
 #include <QString>
@@ -34,7 +33,7 @@ struct Options
     QString error;
     QStringList definitions;
     QStringList overlays;
-    MavlinkFraming framing = MavlinkFraming::Automatic;
+    QString framing; ///< One of the format's framings; empty for its default one.
     std::optional<double> speed
         = 1.0; ///< Times the recorded pace; nothing for as fast as possible.
     Report report = Report::None;

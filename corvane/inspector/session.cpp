@@ -2,9 +2,10 @@
 
 #include "bytesource.h"
 #include "descriptions.h"
-#include "mavlinkmessage.h"
+#include "mavlinkformat.h"
 #include "messageinfo.h"
 #include "overlayloader.h"
+#include "streamdecoder.h"
 #include "streampump.h"
 
 #include <QDateTime>
@@ -13,7 +14,8 @@ namespace corvane {
 
 Session::Session(QObject *parent)
     : QObject(parent)
-    , reception(std::make_unique<Reception>(format.getInfo(), mavlinkSenderName, true))
+    , format(std::make_unique<MavlinkFormat>())
+    , reception(std::make_unique<Reception>(*format))
 {
 }
 
@@ -22,9 +24,8 @@ Session::~Session() = default;
 QStringList Session::load(const Options &options)
 {
     QStringList errors;
-    for (const QString &file : options.definitions)
-        for (const LoadError &error : format.load(file).errors)
-            errors.append(error.toString());
+    for (const LoadError &error : format->loadFiles(options.definitions).errors)
+        errors.append(error.toString());
     // An overlay speaks of what the definitions describe; without them it would only add errors.
     if (errors.isEmpty())
         for (const QString &file : options.overlays)
@@ -39,7 +40,7 @@ void Session::needAllTypes()
     // Every type is decoded from the start, so that the only message of a type that is sent once
     // is there when somebody chooses it later.
     QList<const MessageInfo *> types;
-    for (const auto &message : format.getInfo()->getData()->messages)
+    for (const auto &message : format->getInfo()->getData()->messages)
         types.append(message.get());
     need.setMessagesNeeded(types);
 }
@@ -49,7 +50,7 @@ void Session::start(const Options &options)
     if (!options.source)
         return;
     source = createSource(*options.source);
-    decoder = std::make_unique<MavlinkDecoder>(format, *reception, options.framing);
+    decoder = format->makeDecoder(*reception, options.framing);
     const bool atOnce = options.report != Options::Report::None || !options.speed;
     if (!atOnce)
         clock.setSpeed(*options.speed);

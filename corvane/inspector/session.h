@@ -1,7 +1,5 @@
 #pragma once
 
-#include "mavlinkdecoder.h"
-#include "mavlinkformat.h"
 #include "messageneed.h"
 #include "options.h"
 #include "reception.h"
@@ -14,6 +12,8 @@
 namespace corvane {
 
 class ByteSource;
+class StreamDecoder;
+class StreamFormat;
 class StreamPump;
 
 /** One source that is watched: its definitions, its bytes, and what was received from it. */
@@ -51,12 +51,12 @@ private:
     void needAllTypes();
     void addSourceEvent(CorvaneEvent::Type type, const QString &text);
 
-    MavlinkFormat format;
+    std::unique_ptr<StreamFormat> format;
     std::unique_ptr<Reception> reception;
     MessageNeed need{nullptr};
     ReplayClock clock;
     std::unique_ptr<ByteSource> source;
-    std::unique_ptr<MavlinkDecoder> decoder;
+    std::unique_ptr<StreamDecoder> decoder;
     std::unique_ptr<StreamPump> pump;
 };
 

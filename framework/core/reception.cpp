@@ -6,6 +6,7 @@
 #include "messageneedcounts.h"
 #include "messageneedmanager.h"
 #include "messagestatisticsdata.h"
+#include "streamformat.h"
 
 namespace corvane {
 
@@ -35,16 +36,24 @@ Reception::Reception(const FormatInfo *format,
         totals.crcErrors = 0;
 }
 
+Reception::Reception(const StreamFormat &format, MessageNeedManager *needs, QObject *parent)
+    : Reception(format.getInfo(), format.getSenderNamer(), format.hasChecksum(), needs, parent)
+{
+    senders = SenderTable(format.getSenderNamer(), format.getLastSequenceNumber());
+}
+
 Reception::~Reception() = default;
 
 bool Reception::receiveFrame(const FrameHeader &frame)
 {
     ++totals.frames;
     countIn(statistics.getData()->getFor(frame.messageInfo), frame);
-    SenderStatistics &sender = senders.get(frame.senderId);
-    const quint32 missing = sender.receive(frame.sequence);
-    if (missing != 0)
-        reportLoss(sender, frame, missing);
+    if (frame.sequence) {
+        SenderStatistics &sender = senders.get(frame.senderId);
+        const quint32 missing = sender.receive(*frame.sequence);
+        if (missing != 0)
+            reportLoss(sender, frame, missing);
+    }
     return needs->isNeeded(frame.messageInfo->getData()->slot);
 }
 
@@ -64,8 +73,8 @@ void Reception::receiveUnknownFrame(const FrameHeader &frame)
             tr("%1. Load the definitions that describe this id.").arg(subject), subject};
     });
     // The frame used up a number all the same. One that cannot be checked makes no new sender.
-    SenderStatistics *sender = senders.find(frame.senderId);
-    const quint32 missing = sender != nullptr ? sender->pass(frame.sequence) : 0;
+    SenderStatistics *sender = frame.sequence ? senders.find(frame.senderId) : nullptr;
+    const quint32 missing = sender != nullptr ? sender->pass(*frame.sequence) : 0;
     if (missing != 0)
         reportLoss(*sender, frame, missing);
 }
@@ -125,10 +134,10 @@ void Reception::reportLoss(const SenderStatistics &sender,
                            quint32 missing)
 {
     noteEvent({CorvaneEvent::SequenceGap, frame.senderId}, frame.timeUs, [&] {
-        return EventGatherer::Text{
-            tr("Sender %1: %2 messages lost before sequence number %3.")
-                .arg(sender.id, QString::number(missing), QString::number(frame.sequence)),
-            tr("Sender %1: messages lost").arg(sender.id)};
+        return EventGatherer::Text{tr("Sender %1: %2 messages lost before sequence number %3.")
+                                       .arg(sender.id, QString::number(missing),
+                                            QString::number(frame.sequence.value_or(0))),
+                                   tr("Sender %1: messages lost").arg(sender.id)};
     });
 }
 

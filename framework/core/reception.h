@@ -19,6 +19,7 @@ namespace corvane {
 
 class MessageNeedCounts;
 struct MessageStatisticsData;
+class StreamFormat;
 
 /** A frame as a frame reader found it. */
 struct FrameHeader
@@ -26,7 +27,7 @@ struct FrameHeader
     const MessageInfo *messageInfo = nullptr; ///< Null for an id that no definition describes.
     quint32 messageNumber = 0;
     quint32 senderId = 0;
-    quint8 sequence = 0;
+    std::optional<quint32> sequence; ///< Nothing for a frame that belongs to no sequence.
     qint64 timeUs = 0; ///< Microseconds since 1970, or DecodedMessage::unknownTime.
     bool hasOwnClock = false; ///< The time comes from a field and may count from anything.
 };
@@ -55,6 +56,10 @@ public:
               bool hasChecksum,
               MessageNeedManager *needs = nullptr,
               QObject *parent = nullptr);
+    /** What comes from a stream of \a format, which must outlive the reception. */
+    explicit Reception(const StreamFormat &format,
+                       MessageNeedManager *needs = nullptr,
+                       QObject *parent = nullptr);
     ~Reception() override;
 
     const FormatInfo *getFormat() const { return format; }

@@ -4,20 +4,27 @@
 
 namespace corvane {
 
-quint32 SenderStatistics::receive(quint8 sequence)
+SenderStatistics::SenderStatistics(quint32 lastNumber)
+    : lastNumber(lastNumber)
+{
+}
+
+quint32 SenderStatistics::receive(quint32 sequence)
 {
     ++frames;
     return pass(sequence);
 }
 
-quint32 SenderStatistics::pass(quint8 sequence)
+quint32 SenderStatistics::pass(quint32 sequence)
 {
-    const std::optional<quint8> previous = std::exchange(lastSequence, sequence);
+    const std::optional<quint32> previous = std::exchange(lastSequence, sequence);
     // A number that comes twice is a frame that was sent twice, not 255 lost ones.
     if (!previous || *previous == sequence)
         return 0;
-    const quint32 missing = static_cast<quint8>(sequence - *previous - 1);
-    if (missing == 0)
+    const quint32 missing = (sequence - *previous - 1) & lastNumber;
+    // Nobody loses half of so many: a wide number that goes back comes from a sender's new start.
+    const bool restarted = lastNumber > 0xFFFF && missing > lastNumber / 2;
+    if (missing == 0 || restarted)
         return 0;
     ++sequenceGaps;
     lost += missing;
@@ -36,8 +43,9 @@ void SenderTable::forgetSequences()
         sender->lastSequence.reset();
 }
 
-SenderTable::SenderTable(Namer namer)
+SenderTable::SenderTable(Namer namer, quint32 lastNumber)
     : namer(namer)
+    , lastNumber(lastNumber)
 {
 }
 
@@ -47,7 +55,7 @@ SenderStatistics &SenderTable::get(quint32 senderId)
         return *latest;
     SenderStatistics *&entry = byId[senderId];
     if (entry == nullptr) {
-        all.push_back(std::make_unique<SenderStatistics>());
+        all.push_back(std::make_unique<SenderStatistics>(lastNumber));
         entry = all.back().get();
         entry->id = namer(senderId);
     }

@@ -17,20 +17,24 @@ namespace corvane {
 /** What is known of one sender, by the sequence numbers of its good frames. */
 struct CORVANEFRAMEWORK_EXPORT SenderStatistics
 {
+    /** \a lastNumber: the last sequence number before 0 comes again, 2^n - 1. */
+    explicit SenderStatistics(quint32 lastNumber = 0xFF);
+
     /** Counts a good frame; returns how many are missing before it. */
-    quint32 receive(quint8 sequence);
+    quint32 receive(quint32 sequence);
     /** The same for a frame that cannot be checked, which is not counted as received. */
-    quint32 pass(quint8 sequence);
+    quint32 pass(quint32 sequence);
     /** Counts a damaged frame that claims to come from this sender and to be of that type. */
     void countCrcError(const MessageInfo *claimedType);
 
     QString id; ///< As the format names its senders, such as "1/100".
     quint64 frames = 0;
     quint64 sequenceGaps = 0; ///< Places at which numbers are missing.
-    quint64 lost = 0; ///< Numbers missing at these places, modulo 256 at each.
+    quint64 lost = 0; ///< Numbers missing at these places, below lastNumber at each.
     quint64 crcErrors = 0; ///< Damaged frames that claim to come from this sender.
     QHash<const MessageInfo *, quint64> crcErrorsByType; ///< By the types they claim to be of.
-    std::optional<quint8> lastSequence;
+    std::optional<quint32> lastSequence;
+    quint32 lastNumber;
 };
 
 /** The senders of a stream, in the order of their first frame. */
@@ -39,8 +43,8 @@ class CORVANEFRAMEWORK_EXPORT SenderTable
 public:
     using Namer = QString (*)(quint32 senderId);
 
-    /** \a namer gives the id that people read. */
-    explicit SenderTable(Namer namer);
+    /** \a namer gives the id that people read; \a lastNumber: as for SenderStatistics. */
+    explicit SenderTable(Namer namer, quint32 lastNumber = 0xFF);
 
     /** The sender of that id; made at first sight. */
     SenderStatistics &get(quint32 senderId);
@@ -56,6 +60,7 @@ public:
 
 private:
     Namer namer;
+    quint32 lastNumber;
     std::vector<std::unique_ptr<SenderStatistics>> all;
     QHash<quint32, SenderStatistics *> byId;
     quint32 latestId = 0;

@@ -3,10 +3,14 @@
 #include "catalogue.h"
 #include "descriptions.h"
 #include "enumeration.h"
+#include "mavlinkdecoder.h"
 #include "mavlinkdefinitionreader.h"
+#include "mavlinkmessage.h"
 #include "messageinfo.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace corvane {
 
@@ -49,6 +53,34 @@ MavlinkFormat::LoadResult MavlinkFormat::load(const QString &file)
             addMessage(message);
     Catalogue::getInstance()->announceChange();
     return {{}, reader.getWarnings()};
+}
+
+StreamFormat::LoadResult MavlinkFormat::loadFiles(const QStringList &files)
+{
+    LoadResult result;
+    for (const QString &file : files) {
+        const LoadResult ofFile = load(file);
+        result.errors += ofFile.errors;
+        result.warnings += ofFile.warnings;
+    }
+    return result;
+}
+
+SenderTable::Namer MavlinkFormat::getSenderNamer() const
+{
+    return mavlinkSenderName;
+}
+
+QStringList MavlinkFormat::getFramings() const
+{
+    return {QStringLiteral("auto"), QStringLiteral("raw"), QStringLiteral("tlog")};
+}
+
+std::unique_ptr<StreamDecoder> MavlinkFormat::makeDecoder(Reception &reception,
+                                                          const QString &framing) const
+{
+    const auto index = std::max<qsizetype>(0, getFramings().indexOf(framing));
+    return std::make_unique<MavlinkDecoder>(*this, reception, static_cast<MavlinkFraming>(index));
 }
 
 QList<LoadError> MavlinkFormat::findConflicts(const MavlinkDefinitions &definitions) const

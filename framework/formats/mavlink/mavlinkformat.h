@@ -2,9 +2,9 @@
 
 #include "corvaneframework_export.h"
 #include "formatinfo.h"
-#include "loaderror.h"
 #include "mavlinkdefinitions.h"
 #include "mavlinkdescriptions.h"
+#include "streamformat.h"
 
 #include <QHash>
 #include <QList>
@@ -25,21 +25,11 @@ struct MavlinkMessageType
  * The MAVLink format with the message types that have been loaded. Registers itself in the
  * catalogue. Types are only ever added, so descriptions stay valid as long as the format.
  */
-class CORVANEFRAMEWORK_EXPORT MavlinkFormat
+class CORVANEFRAMEWORK_EXPORT MavlinkFormat final : public StreamFormat
 {
 public:
-    struct LoadResult
-    {
-        bool isOk() const { return errors.isEmpty(); }
-
-        QList<LoadError> errors;
-        QList<LoadError> warnings;
-    };
-
     MavlinkFormat();
-    ~MavlinkFormat();
-    MavlinkFormat(const MavlinkFormat &) = delete;
-    MavlinkFormat &operator=(const MavlinkFormat &) = delete;
+    ~MavlinkFormat() override;
 
     /**
      * Adds the types of a dialect file and of all that it includes. With errors nothing is added.
@@ -47,7 +37,20 @@ public:
      */
     LoadResult load(const QString &file);
 
-    const FormatInfo *getInfo() const { return &info; }
+    LoadResult loadFiles(const QStringList &files) override;
+
+    const FormatInfo *getInfo() const override { return &info; }
+
+    bool hasChecksum() const override { return true; }
+
+    SenderTable::Namer getSenderNamer() const override;
+
+    quint32 getLastSequenceNumber() const override { return 0xFF; }
+
+    /** "auto", "raw" and "tlog". */
+    QStringList getFramings() const override;
+    std::unique_ptr<StreamDecoder> makeDecoder(Reception &reception,
+                                               const QString &framing) const override;
 
     /** The type with that id, or null. */
     const MavlinkMessageType *findType(quint32 id) const

@@ -1,7 +1,6 @@
 #include "options.h"
 #include "testcase.h"
 
-using corvane::MavlinkFraming;
 using corvane::Options;
 
 class tst_options : public corvane::test::TestCase
@@ -35,7 +34,7 @@ void tst_options::parse_noArguments_runsWithoutSource()
     const Options options = parse(QString());
     QCOMPARE(options.wish, Options::Wish::Run);
     QVERIFY(!options.source);
-    QCOMPARE(options.framing, MavlinkFraming::Automatic);
+    QCOMPARE(options.framing, QString());
     QCOMPARE(options.speed, std::optional(1.0));
     QCOMPARE(options.report, Options::Report::None);
 }
@@ -48,7 +47,7 @@ void tst_options::parse_everyOption_isTaken()
     QCOMPARE(options.error, QString());
     QCOMPARE(options.definitions, QStringList{QStringLiteral("a.xml")});
     QCOMPARE(options.overlays, QStringList{QStringLiteral("b.json")});
-    QCOMPARE(options.framing, MavlinkFraming::TimeStamped);
+    QCOMPARE(options.framing, QStringLiteral("tlog"));
     QCOMPARE(options.speed, std::optional(2.5));
     QCOMPARE(options.report, Options::Report::Json);
     QCOMPARE(options.durationSeconds, std::optional(1.5));
@@ -56,7 +55,7 @@ void tst_options::parse_everyOption_isTaken()
 
     const Options picture
         = parse(QStringLiteral("--framing raw --screenshot w.png --after 7 --definitions a.xml -"));
-    QCOMPARE(picture.framing, MavlinkFraming::Raw);
+    QCOMPARE(picture.framing, QStringLiteral("raw"));
     QCOMPARE(picture.screenshotFile, QStringLiteral("w.png"));
     QCOMPARE(picture.screenshotAfterSeconds, 7.0);
     QCOMPARE(picture.source->kind, corvane::SourceAddress::Kind::StandardInput);

@@ -12,6 +12,8 @@ class TestSenderStatistics : public TestCase
 private Q_SLOTS:
     void losses_areCounted_data();
     void losses_areCounted();
+    void wideNumbers_areCounted_data();
+    void wideNumbers_areCounted();
     void table_keepsSendersApart();
     void table_keepsTheOrderOfFirstSight();
 };
@@ -46,6 +48,27 @@ void TestSenderStatistics::losses_areCounted()
     QCOMPARE(sender.sequenceGaps, quint64(gaps));
     QCOMPARE(sender.lost, quint64(lost));
     QCOMPARE(told, quint64(lost));
+}
+
+void TestSenderStatistics::wideNumbers_areCounted_data()
+{
+    QTest::addColumn<QList<quint32>>("sequence");
+    QTest::addColumn<quint64>("lost");
+
+    QTest::newRow("beyond a byte") << QList<quint32>{254, 255, 256, 257} << quint64(0);
+    QTest::newRow("many lost") << QList<quint32>{10, 100'011} << quint64(100'000);
+    QTest::newRow("over the end") << QList<quint32>{0xFFFFFFFE, 0xFFFFFFFF, 0, 2} << quint64(1);
+    QTest::newRow("a new start") << QList<quint32>{5'000, 0, 1} << quint64(0);
+}
+
+void TestSenderStatistics::wideNumbers_areCounted()
+{
+    QFETCH(QList<quint32>, sequence);
+    QFETCH(quint64, lost);
+    SenderStatistics sender(0xFFFFFFFF);
+    for (const quint32 number : sequence)
+        sender.receive(number);
+    QCOMPARE(sender.lost, lost);
 }
 
 void TestSenderStatistics::table_keepsSendersApart()

@@ -1,0 +1,7 @@
+#include "streamformat.h"
+
+namespace corvane {
+
+StreamFormat::~StreamFormat() = default;
+
+} // namespace corvane
