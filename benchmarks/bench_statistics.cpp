@@ -2,6 +2,7 @@
 // come at random moments, beside reading a clock.
 
 #include "descriptions.h"
+#include "fieldinfo.h"
 #include "formatinfo.h"
 #include "messageinfo.h"
 #include "reception.h"

@@ -4,7 +4,9 @@
 #include "descriptions.h"
 #include "eventlogtablewidget.h"
 #include "fakestatistics.h"
+#include "fieldinfo.h"
 #include "formatinfo.h"
+#include "messageinfo.h"
 #include "messagestatisticswidget.h"
 
 #include <QApplication>

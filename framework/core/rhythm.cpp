@@ -36,6 +36,9 @@ template <typename Intervals>
 double findSteadyPeriod(const Intervals &intervals)
 {
     constexpr double shortest = 100 * usPerMs; // faster ones can afford to wait for more intervals
+    const double latest = intervals.back().us;
+    if (latest < shortest / 2 || !isNear(intervals.front().us, latest, 0.05))
+        return 0; // the common case, at little cost
     const double median = medianOf(intervals);
     const bool steady = median >= shortest
                         && std::all_of(intervals.begin(), intervals.end(), [&](const auto &each) {
@@ -84,6 +87,13 @@ double findPeriodWithHoles(const Intervals &intervals)
 template <typename Intervals>
 double findUnsteadyPeriod(const Intervals &intervals, int others)
 {
+    if (others == 0) {
+        const auto [shortest, longest] = std::minmax_element(
+            intervals.begin(), intervals.end(),
+            [](const auto &left, const auto &right) { return left.us < right.us; });
+        if (longest->us >= 3 * shortest->us)
+            return 0;
+    }
     const double median = medianOf(intervals);
     double all = 0;
     double sum = 0;
@@ -195,8 +205,8 @@ void Rhythm::learn(IntervalStatistics &statistics)
     constexpr int fewIntervals = 5;
     constexpr int someIntervals = 8;
     constexpr int manyIntervals = 16;
-    if (usable > someIntervals && sinceStart % 4 != 0)
-        return;
+    if (usable > someIntervals && sinceStart % 8 != 0)
+        return; // often enough
     double period = 0;
     int count = fewIntervals;
     if (usable >= count)
@@ -205,7 +215,7 @@ void Rhythm::learn(IntervalStatistics &statistics)
         period = findPeriodWithHoles(latest(count = someIntervals));
     if (period == 0 && usable >= manyIntervals)
         period = findUnsteadyPeriod(latest(count = manyIntervals), 0);
-    if (period == 0 && usable >= static_cast<int>(mostIntervals))
+    if (period == 0 && usable >= static_cast<int>(mostIntervals) && sinceStart % 16 == 0)
         period = findUnsteadyPeriod(latest(count = mostIntervals), 6);
     if (period > 0)
         begin(period, count, statistics);
