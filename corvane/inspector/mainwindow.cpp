@@ -1,12 +1,15 @@
 #include "mainwindow.h"
 
+#include "eventlogpanel.h"
 #include "formpanel.h"
 #include "latestmessages.h"
 #include "messageinfo.h"
 #include "messagestatistics.h"
 #include "messagetreepanel.h"
 #include "messagetypemodel.h"
+#include "senderspanel.h"
 #include "session.h"
+#include "statisticspanel.h"
 #include "watchpanel.h"
 
 #include <QCloseEvent>
@@ -105,6 +108,20 @@ void MainWindow::createPanels()
         = addPanel(watch, QStringLiteral("watch"), tr("Watch"), Qt::RightDockWidgetArea);
     tabifyDockWidget(formDock, watchDock);
     formDock->raise();
+
+    Reception &reception = session.getReception();
+    statistics = new StatisticsPanel(*reception.getStatistics());
+    senders = new SendersPanel(reception);
+    auto *events = new EventLogPanel(*reception.getEventLog());
+    QDockWidget *statisticsDock = addPanel(statistics, QStringLiteral("statistics"),
+                                           tr("Statistics"), Qt::BottomDockWidgetArea);
+    QDockWidget *eventsDock
+        = addPanel(events, QStringLiteral("events"), tr("Event log"), Qt::BottomDockWidgetArea);
+    QDockWidget *sendersDock
+        = addPanel(senders, QStringLiteral("senders"), tr("Senders"), Qt::BottomDockWidgetArea);
+    tabifyDockWidget(statisticsDock, eventsDock);
+    tabifyDockWidget(eventsDock, sendersDock);
+    statisticsDock->raise();
 }
 
 QDockWidget *MainWindow::addPanel(QWidget *panel,
@@ -127,6 +144,7 @@ void MainWindow::restoreLayout()
     restoreState(settings.value(layoutKey()).toByteArray());
     tree->restoreSettings(settings);
     watch->restoreSettings(settings);
+    statistics->restoreSettings(settings);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -135,6 +153,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     settings.setValue(layoutKey(), saveState());
     tree->saveSettings(settings);
     watch->saveSettings(settings);
+    statistics->saveSettings(settings);
     QMainWindow::closeEvent(event);
 }
 
@@ -213,6 +232,10 @@ QString MainWindow::getPlaceholderText() const
 void MainWindow::refreshCounts()
 {
     types->refresh();
+    if (!latest->isPaused()) {
+        statistics->refresh();
+        senders->refresh();
+    }
     const Reception::Totals &totals = session.getReception().getTotals();
     const double seconds = static_cast<double>(sinceCounts.restart()) / 1000.0;
     const auto newFrames = static_cast<double>(totals.frames - framesAtCounts);

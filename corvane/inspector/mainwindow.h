@@ -15,11 +15,14 @@ class QTreeView;
 
 namespace corvane {
 
+class EventLogPanel;
 class FormPanel;
 class LatestMessages;
 class MessageTreePanel;
 class MessageTypeModel;
+class SendersPanel;
 class Session;
+class StatisticsPanel;
 class WatchPanel;
 
 /** The inspector's window: panels that each show another side of what is received, live. */
@@ -63,6 +66,8 @@ private:
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.
     WatchPanel *watch = nullptr; ///< Owned as a child.
+    StatisticsPanel *statistics = nullptr; ///< Owned as a child.
+    SendersPanel *senders = nullptr; ///< Owned as a child.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
     QAction *pauseAction = nullptr; ///< Owned as a child.
     QLabel *stateLabel = nullptr; ///< Owned as a child.

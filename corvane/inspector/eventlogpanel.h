@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QWidget>
+
+class EventLog;
+class EventLogTableWidget;
+class QLabel;
+class QLineEdit;
+class QToolButton;
+
+namespace corvane {
+
+/**
+ * The event log, which follows its end until people scroll back and again once they scroll to the
+ * end; only the entries with a text in them, if one is typed.
+ */
+class EventLogPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** \a log: not owned, must outlive the panel. */
+    explicit EventLogPanel(EventLog &log, QWidget *parent = nullptr);
+
+    /** Shows the entries that contain \a text, in any case of letters; all for an empty text. */
+    void setFilter(const QString &text);
+
+    bool isFollowing() const { return following; }
+
+private:
+    void createTable();
+    void filterRow(int row);
+    void followEnd();
+    void refreshState();
+
+    EventLogTableWidget *table; ///< Owned as a child.
+    QLineEdit *filterEdit; ///< Owned as a child.
+    QToolButton *followButton; ///< Owned as a child.
+    QLabel *state; ///< Owned as a child.
+    QString filter;
+    int shownRows = 0;
+    bool following = true;
+};
+
+} // namespace corvane

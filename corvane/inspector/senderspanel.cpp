@@ -1,0 +1,81 @@
+#include "senderspanel.h"
+
+#include "messageinfo.h"
+#include "reception.h"
+#include "steadytreewidget.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace corvane {
+
+SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
+    : QWidget(parent)
+    , reception(reception)
+    , hint(new QLabel(tr("Here stands each sender with what it has sent and what was lost, once "
+                         "messages with sequence numbers come."),
+                      this))
+    , tree(new SteadyTreeWidget(this))
+{
+    hint->setWordWrap(true);
+    hint->setMargin(fontMetrics().height() / 2);
+    tree->setAccessibleName(tr("Senders"));
+    tree->setUniformRowHeights(true);
+    tree->setHeaderLabels(
+        {tr("Sender"), tr("Frames"), tr("Places with losses"), tr("Lost"), tr("CRC errors")});
+    tree->headerItem()->setToolTip(SenderColumn,
+                                   tr("Below a sender: the message types that its damaged frames "
+                                      "claim to be of"));
+    tree->headerItem()->setToolTip(LostColumn, tr("Messages missing by their sequence numbers"));
+    tree->header()->setStretchLastSection(false);
+    tree->header()->setSectionResizeMode(SenderColumn, QHeaderView::Stretch);
+    tree->setSortingEnabled(true);
+    tree->sortByColumn(SenderColumn, Qt::AscendingOrder);
+    // Without a checksum there are no errors to be found, which is not the same as none found.
+    tree->setColumnHidden(CrcErrorsColumn, !reception.getTotals().crcErrors.has_value());
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(hint);
+    layout->addWidget(tree, 1);
+}
+
+void SendersPanel::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    refresh();
+}
+
+void SendersPanel::refresh()
+{
+    if (!isVisible())
+        return;
+    for (const auto &sender : reception.getSenders().getAll())
+        refreshRow(*sender);
+    hint->setVisible(rows.isEmpty());
+}
+
+void SendersPanel::refreshRow(const SenderStatistics &sender)
+{
+    Row &row = rows[&sender];
+    if (row.item == nullptr) {
+        row.item = new QTreeWidgetItem(tree, {sender.id});
+        for (int column = FramesColumn; column < ColumnCount; ++column)
+            row.item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+    }
+    SteadyTreeWidget::setItemNumber(row.item, FramesColumn, sender.frames);
+    SteadyTreeWidget::setItemNumber(row.item, GapsColumn, sender.sequenceGaps);
+    SteadyTreeWidget::setItemNumber(row.item, LostColumn, sender.lost);
+    SteadyTreeWidget::setItemNumber(row.item, CrcErrorsColumn, sender.crcErrors);
+    for (auto entry = sender.crcErrorsByType.begin(); entry != sender.crcErrorsByType.end();
+         ++entry) {
+        QTreeWidgetItem *&item = row.claimedTypes[entry.key()];
+        if (item == nullptr) {
+            item = new QTreeWidgetItem(row.item, {entry.key()->getName()});
+            item->setTextAlignment(CrcErrorsColumn, Qt::AlignRight | Qt::AlignVCenter);
+        }
+        SteadyTreeWidget::setItemNumber(item, CrcErrorsColumn, entry.value());
+    }
+}
+
+} // namespace corvane

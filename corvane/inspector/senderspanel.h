@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QHash>
+#include <QWidget>
+
+class MessageInfo;
+class QLabel;
+class QTreeWidgetItem;
+class SteadyTreeWidget;
+
+namespace corvane {
+
+class Reception;
+struct SenderStatistics;
+
+/** The senders of a stream: frames, losses, and damaged frames by the type that they claim. */
+class SendersPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** \a reception: not owned, must outlive the panel. */
+    explicit SendersPanel(const Reception &reception, QWidget *parent = nullptr);
+
+    /** Does nothing while nobody can see it. */
+    void refresh();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    enum Column {
+        SenderColumn,
+        FramesColumn,
+        GapsColumn,
+        LostColumn,
+        CrcErrorsColumn,
+        ColumnCount
+    };
+
+    struct Row
+    {
+        QTreeWidgetItem *item = nullptr; ///< Owned by the tree.
+        QHash<const MessageInfo *, QTreeWidgetItem *> claimedTypes; ///< The rows below it.
+    };
+
+    void refreshRow(const SenderStatistics &sender);
+
+    const Reception &reception;
+    QLabel *hint; ///< Owned as a child. Shown while there is nothing else.
+    SteadyTreeWidget *tree; ///< Owned as a child.
+    QHash<const SenderStatistics *, Row> rows;
+};
+
+} // namespace corvane

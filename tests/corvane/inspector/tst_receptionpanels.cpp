@@ -1,0 +1,271 @@
+#include "eventlog.h"
+#include "eventlogpanel.h"
+#include "eventlogtablewidget.h"
+#include "messageinfo.h"
+#include "messagestatisticswidget.h"
+#include "reception.h"
+#include "senderspanel.h"
+#include "statisticspanel.h"
+#include "steadytreewidget.h"
+#include "testcase.h"
+#include "testformat.h"
+#include "treeprinter.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+using namespace corvane;
+using namespace corvane::test;
+
+class tst_receptionpanels : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void statistics_sayWhatWouldFillThem();
+    void statistics_showWhatIsReceived();
+    void statistics_rememberTheirSorting();
+    void statistics_surviveBrokenSettings();
+    void senders_showLossesAndDamage();
+    void senders_withoutChecksum_haveNoErrorColumn();
+    void events_showOnlyWhatIsLookedFor();
+    void events_followTheirEndUntilScrolledBack();
+    void events_startAgainWhenTheLogIsCleared();
+    void events_ofALongLog_areFilteredAtOnce();
+};
+
+namespace {
+
+/** A reception of a type, 50 ms apart, of which some frames were damaged or lost. */
+class Scene
+{
+public:
+    explicit Scene(bool hasChecksum = true)
+        : reception(
+            format.getInfo(),
+            [](quint32 id) { return QStringLiteral("unit %1").arg(id); },
+            hasChecksum)
+    {
+    }
+
+    FrameHeader frame(quint32 sequence, quint32 sender = 1) const
+    {
+        return {format.type("A"), 7, sender, sequence, 1'000'000 + sequence * 50'000LL};
+    }
+
+    const TestFormat format{"Demo", "A\n x int8\nB\n x int8\n"};
+    Reception reception;
+};
+
+EventLog::Entry entry(const QString &text)
+{
+    return {{}, CorvaneEvent(CorvaneEvent::Other, text)};
+}
+
+QStringList shownEvents(const QTableWidget &table)
+{
+    QStringList texts;
+    for (int row = 0; row < table.rowCount(); ++row)
+        if (!table.isRowHidden(row))
+            texts += table.item(row, 1)->text();
+    return texts;
+}
+
+} // namespace
+
+void tst_receptionpanels::statistics_sayWhatWouldFillThem()
+{
+    Scene scene;
+    StatisticsPanel panel(*scene.reception.getStatistics());
+    panel.show();
+    const auto *hint = panel.findChild<QLabel *>();
+    QVERIFY(hint->isVisible());
+    scene.reception.receiveFrame(scene.frame(0));
+    panel.refresh();
+    QVERIFY(!hint->isVisible());
+}
+
+void tst_receptionpanels::statistics_showWhatIsReceived()
+{
+    Scene scene;
+    StatisticsPanel panel(*scene.reception.getStatistics());
+    const auto *tree = panel.findChild<MessageStatisticsWidget *>();
+    for (quint32 i = 0; i < 100; ++i)
+        if (i != 40)
+            scene.reception.receiveFrame(scene.frame(i));
+    scene.reception.receiveDamagedFrame(scene.frame(40), "damaged");
+    panel.refresh(); // nobody sees it
+    QCOMPARE(tree->topLevelItemCount(), 0);
+    panel.show();
+    QCOMPARE(printed(*tree), lines(R"(
+        CRC Errors | 1 |  |
+        Demo |  |  |
+          +A | 99 | 50 ms (20 Hz) | 1 (1 epochs)
+            +Gaps |  |  |
+              1970-01-01T00:00:02.950Z | 1 | 50 ms |
+            +Rates/Intervals |  |  |
+              100 ms (10 Hz) | 1 |  |
+              50 ms (20 Hz) | 98 |  |
+    )"));
+}
+
+void tst_receptionpanels::statistics_rememberTheirSorting()
+{
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
+    Scene scene;
+    {
+        StatisticsPanel panel(*scene.reception.getStatistics());
+        panel.restoreSettings(settings);
+        panel.findChild<MessageStatisticsWidget *>()->sortByColumn(1, Qt::DescendingOrder);
+        panel.saveSettings(settings);
+    }
+    StatisticsPanel panel(*scene.reception.getStatistics());
+    panel.restoreSettings(settings);
+    const auto *tree = panel.findChild<MessageStatisticsWidget *>();
+    QCOMPARE(tree->sortColumn(), 1);
+    QCOMPARE(tree->header()->sortIndicatorOrder(), Qt::DescendingOrder);
+}
+
+void tst_receptionpanels::statistics_surviveBrokenSettings()
+{
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
+    Scene scene;
+    for (const QVariant &broken : {QVariant(4), QVariant(-2), QVariant("text"), QVariant(1e12)}) {
+        settings.setValue("statistics/sortColumn", broken);
+        settings.setValue("statistics/sortOrder", broken);
+        settings.setValue("statistics/headerstate", QByteArray("no header"));
+        StatisticsPanel panel(*scene.reception.getStatistics());
+        panel.restoreSettings(settings);
+        QCOMPARE(panel.findChild<MessageStatisticsWidget *>()->sortColumn(), 0);
+    }
+}
+
+void tst_receptionpanels::senders_showLossesAndDamage()
+{
+    Scene scene;
+    SendersPanel panel(scene.reception);
+    panel.show();
+    const auto *tree = panel.findChild<SteadyTreeWidget *>();
+    QVERIFY(panel.findChild<QLabel *>()->isVisible());
+    scene.reception.receiveFrame(scene.frame(0));
+    scene.reception.receiveFrame(scene.frame(4));
+    scene.reception.receiveFrame(scene.frame(0, 2));
+    scene.reception.receiveDamagedFrame(scene.frame(5), "damaged");
+    panel.refresh();
+    QVERIFY(!panel.findChild<QLabel *>()->isVisible());
+    QCOMPARE(printed(*tree), lines(R"(
+        +unit 1 | 2 | 1 | 3 | 1
+          A |  |  |  | 1
+        unit 2 | 1 | 0 | 0 | 0
+    )"));
+    scene.reception.receiveDamagedFrame(scene.frame(6), "damaged");
+    panel.refresh();
+    QCOMPARE(tree->topLevelItem(0)->child(0)->text(4), "2");
+}
+
+void tst_receptionpanels::senders_withoutChecksum_haveNoErrorColumn()
+{
+    Scene scene(false);
+    const SendersPanel panel(scene.reception);
+    QVERIFY(panel.findChild<SteadyTreeWidget *>()->isColumnHidden(4));
+    Scene other(true);
+    const SendersPanel otherPanel(other.reception);
+    QVERIFY(!otherPanel.findChild<SteadyTreeWidget *>()->isColumnHidden(4));
+}
+
+void tst_receptionpanels::events_showOnlyWhatIsLookedFor()
+{
+    EventLog log;
+    log.addEntry(entry("CRC error: A"));
+    EventLogPanel panel(log);
+    panel.show();
+    log.addEntry(entry("lost"));
+    auto *edit = panel.findChild<QLineEdit *>();
+    const auto *table = panel.findChild<EventLogTableWidget *>();
+    const auto *state = panel.findChild<QLabel *>();
+    QCOMPARE(state->text(), "2 entries");
+    QTest::keyClicks(edit, "crc");
+    QCOMPARE(shownEvents(*table), QStringList{"CRC error: A"});
+    log.addEntry(entry("crc error: B"));
+    log.addEntry(entry("lost again"));
+    QCOMPARE(shownEvents(*table), (QStringList{"CRC error: A", "crc error: B"}));
+    QCOMPARE(state->text(), "2 of 4 entries");
+    edit->clear();
+    QCOMPARE(shownEvents(*table).size(), 4);
+}
+
+void tst_receptionpanels::events_followTheirEndUntilScrolledBack()
+{
+    EventLog log;
+    EventLogPanel panel(log);
+    panel.resize(500, 300);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    const QScrollBar *bar = panel.findChild<EventLogTableWidget *>()->verticalScrollBar();
+    const auto add = [&](int count) {
+        for (int i = 0; i < count; ++i)
+            log.addEntry(entry("event"));
+        QCoreApplication::processEvents();
+    };
+    add(100);
+    QVERIFY(bar->maximum() > 0);
+    QCOMPARE(bar->value(), bar->maximum());
+    auto *button = panel.findChild<QToolButton *>();
+    QVERIFY(!button->isEnabled());
+
+    const_cast<QScrollBar *>(bar)->setValue(10);
+    QVERIFY(!panel.isFollowing());
+    QVERIFY(panel.findChild<QLabel *>()->text().endsWith("not following"));
+    add(10);
+    QCOMPARE(bar->value(), 10);
+    const_cast<QScrollBar *>(bar)->setValue(bar->maximum());
+    add(10);
+    QCOMPARE(bar->value(), bar->maximum());
+
+    const_cast<QScrollBar *>(bar)->setValue(10);
+    button->click();
+    QCOMPARE(bar->value(), bar->maximum());
+    add(10);
+    QCOMPARE(bar->value(), bar->maximum());
+}
+
+void tst_receptionpanels::events_startAgainWhenTheLogIsCleared()
+{
+    EventLog log;
+    EventLogPanel panel(log);
+    log.addEntry(entry("one"));
+    log.clear();
+    QVERIFY(panel.findChild<QLabel *>()->text().startsWith("No events"));
+    panel.setFilter("t");
+    log.addEntry(entry("two"));
+    log.addEntry(entry("one"));
+    QCOMPARE(panel.findChild<QLabel *>()->text(), "1 of 2 entries");
+}
+
+void tst_receptionpanels::events_ofALongLog_areFilteredAtOnce()
+{
+    EventLog log;
+    constexpr int count = 20'000;
+    for (int i = 0; i < count; ++i)
+        log.addEntry(entry(QString::number(i)));
+    EventLogPanel panel(log);
+    panel.show();
+    panel.setFilter("77");
+    QStringList expected;
+    for (int i = 0; i < count; ++i)
+        if (QString::number(i).contains("77"))
+            expected += QString::number(i);
+    QCOMPARE(shownEvents(*panel.findChild<EventLogTableWidget *>()), expected);
+}
+
+CORVANE_GUI_TEST_MAIN(tst_receptionpanels)
+#include "tst_receptionpanels.moc"
