@@ -1,6 +1,8 @@
 #include "proctext.h"
 #include "testcase.h"
 
+#include <limits>
+
 using namespace corvane;
 
 class TestProcText : public corvane::test::TestCase
