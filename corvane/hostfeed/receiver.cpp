@@ -1,0 +1,88 @@
+#include "receiver.h"
+
+#include <limits.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace corvane {
+
+namespace {
+
+bool isSocketDescriptor(int descriptor)
+{
+    struct stat status
+    {};
+
+    return ::fstat(descriptor, &status) == 0 && S_ISSOCK(status.st_mode);
+}
+
+} // namespace
+
+Receiver::Receiver(int descriptor, QObject *parent)
+    : QObject(parent)
+    , descriptor(descriptor)
+    , isSocket(isSocketDescriptor(descriptor))
+    , notifier(descriptor, QSocketNotifier::Write)
+{
+    notifier.setEnabled(false);
+    connect(&notifier, &QSocketNotifier::activated, this, &Receiver::writePending);
+}
+
+Receiver::~Receiver()
+{
+    notifier.setEnabled(false);
+    ::close(descriptor);
+}
+
+void Receiver::offer(const Round &round)
+{
+    if (isClosed)
+        return;
+    if (!pending.isEmpty()) {
+        ++droppedRounds;
+        return;
+    }
+    pending = getBytesFor(round, droppedRounds);
+    writePending();
+}
+
+void Receiver::writePending()
+{
+    qsizetype written = 0;
+    while (written < pending.size()) {
+        const qint64 count = writeSome(written);
+        if (count < 0 && errno != EAGAIN && errno != EINTR) {
+            isClosed = true;
+            notifier.setEnabled(false);
+            Q_EMIT closed(errno);
+            return;
+        }
+        if (count < 0 && errno == EAGAIN)
+            break;
+        written += std::max<qint64>(count, 0);
+    }
+    pending.remove(0, written);
+    notifier.setEnabled(!pending.isEmpty());
+}
+
+qint64 Receiver::writeSome(qsizetype from) const
+{
+    const char *data = pending.constData() + from;
+    const auto size = static_cast<size_t>(pending.size() - from);
+    if (isSocket)
+        return ::send(descriptor, data, size, MSG_DONTWAIT | MSG_NOSIGNAL);
+    // A pipe may be shared with programs that do not expect it to refuse to wait. It never waits
+    // for so few bytes after it was found ready.
+    pollfd ready{descriptor, POLLOUT, 0};
+    const int count = ::poll(&ready, 1, 0);
+    if (count == 0)
+        errno = EAGAIN;
+    return count <= 0 ? -1 : ::write(descriptor, data, std::min<size_t>(size, PIPE_BUF));
+}
+
+} // namespace corvane
