@@ -8,12 +8,17 @@
 #include "overlayloader.h"
 #include "streampump.h"
 
+#include <QFileInfo>
+
 namespace corvane {
 
 Session::Session(QObject *parent)
     : QObject(parent)
     , reception(std::make_unique<Reception>(format.getInfo(), mavlinkSenderName, true))
 {
+    connect(&recorder, &Recorder::failed, this, [this](const QString &message) {
+        reception->addEvent(CorvaneEvent::Other, message, DecodedMessage::unknownTime);
+    });
 }
 
 Session::~Session() = default;
@@ -58,6 +63,7 @@ void Session::start(const Options &options)
         reception->addEvent(CorvaneEvent::SourceFailed, message, DecodedMessage::unknownTime);
         Q_EMIT failed(message);
     });
+    connect(pump.get(), &StreamPump::chunkRead, &recorder, &Recorder::write);
     pump->start();
 }
 
@@ -65,6 +71,16 @@ void Session::stop()
 {
     if (pump)
         pump->stop();
+}
+
+QString Session::startRecording(const QString &path)
+{
+    const QFileInfo file(path);
+    if (source && source->getSize() && file == QFileInfo(source->getName()))
+        return tr("Cannot record to \"%1\": it is the file that is being read. Choose another "
+                  "name.")
+            .arg(path);
+    return recorder.start(path) ? QString() : recorder.getErrorMessage();
 }
 
 QString Session::getSourceName() const

@@ -5,6 +5,7 @@
 #include "messageneed.h"
 #include "options.h"
 #include "reception.h"
+#include "recorder.h"
 #include "replayclock.h"
 
 #include <QObject>
@@ -32,6 +33,14 @@ public:
     /** Stops reading; what was received stays. */
     void stop();
 
+    /**
+     * Records the bytes of the source to a file from now on, until getRecorder().stop(). Returns
+     * what is wrong, or nothing. The event log tells when a recording ends by itself.
+     */
+    QString startRecording(const QString &path);
+
+    Recorder &getRecorder() { return recorder; }
+
     Reception &getReception() { return *reception; }
 
     const Reception &getReception() const { return *reception; }
@@ -54,6 +63,7 @@ private:
     std::unique_ptr<Reception> reception;
     MessageNeed need{nullptr};
     ReplayClock clock;
+    Recorder recorder;
     std::unique_ptr<ByteSource> source;
     std::unique_ptr<MavlinkDecoder> decoder;
     std::unique_ptr<StreamPump> pump;

@@ -21,6 +21,9 @@ private Q_SLOTS:
     void start_atOwnPace_waitsForTheFrames();
     void start_missingFile_failsAndSaysSo();
     void getSourceName_withoutSource_isEmpty();
+    void recording_hasTheBytesOfTheSource();
+    void recording_toTheSourceItself_isRefused();
+    void recording_failure_isInTheLog();
 };
 
 namespace {
@@ -33,6 +36,12 @@ Options recordingOptions()
     options.source
         = SourceAddress::parse(sourceFile(QStringLiteral("examples/recording/rover.tlog"))).address;
     return options;
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
 }
 
 } // namespace
@@ -130,6 +139,58 @@ void tst_session::getSourceName_withoutSource_isEmpty()
     QCOMPARE(session.load({}), QStringList());
     session.start({});
     QCOMPARE(session.getSourceName(), QString());
+}
+
+void tst_session::recording_hasTheBytesOfTheSource()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("recording"));
+    Options options = recordingOptions();
+    options.speed.reset();
+    Session session;
+    session.load(options);
+    QCOMPARE(session.startRecording(path), QString());
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    QVERIFY(finished.wait());
+    QVERIFY(session.getRecorder().stop());
+    QVERIFY(readFile(path) == readFile(options.source->text));
+}
+
+void tst_session::recording_toTheSourceItself_isRefused()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("copy.tlog"));
+    Options options = recordingOptions();
+    QVERIFY(QFile::copy(options.source->text, path));
+    const QByteArray before = readFile(path);
+    options.source->text = path;
+    Session session;
+    session.load(options);
+    session.start(options);
+    const QString same = folder.filePath(QStringLiteral("./copy.tlog"));
+    QVERIFY(session.startRecording(same).contains(QStringLiteral("being read")));
+    QVERIFY(!session.getRecorder().isRecording());
+    QVERIFY(readFile(path) == before);
+}
+
+void tst_session::recording_failure_isInTheLog()
+{
+    const QString full = QStringLiteral("/dev/full");
+    if (!QFile::exists(full))
+        QSKIP("no /dev/full here");
+    Options options = recordingOptions();
+    options.speed.reset();
+    Session session;
+    session.load(options);
+    QCOMPARE(session.startRecording(full), QString());
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    QVERIFY(finished.wait());
+    QTRY_VERIFY(!session.getRecorder().isRecording());
+    QCOMPARE(session.getReception().getTotals().frames, 1737U);
+    const auto entries = session.getReception().getEventLog()->getEntries();
+    QVERIFY(entries.constLast().event.getMessage().contains(QStringLiteral("the disk is full")));
 }
 
 CORVANE_TEST_MAIN(tst_session)
