@@ -43,6 +43,9 @@ struct MessageStatisticsData
         lastTimeUs = timeUs;
     }
 
+    /** The interval to the next message is unknown. */
+    void forgetTime() { lastTimeUs = noTime; }
+
     const FormatInfo *format = nullptr; ///< Not owned.
     const MessageInfo *message = nullptr; ///< Not owned; null for an unknown message id.
     QString name;
@@ -70,6 +73,12 @@ public:
 
     /** The statistics of a message id without description; made at first sight. */
     MessageStatisticsData &getFor(const FormatInfo *format, quint32 unknownNumber);
+
+    void forgetTimes()
+    {
+        for (const auto &statistics : all)
+            statistics->getData()->forgetTime();
+    }
 
     std::vector<std::unique_ptr<MessageStatistics>> all;
     std::array<quint32, 16> eventCounts{};

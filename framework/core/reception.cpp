@@ -78,6 +78,12 @@ void Reception::skipBytes(quint64 position, quint64 count, qint64 timeUs)
              tr("%1 bytes from offset %2 belong to no frame.").arg(count).arg(position), timeUs);
 }
 
+void Reception::noteDiscontinuity()
+{
+    senders.forgetSequences();
+    statistics.getData()->forgetTimes();
+}
+
 void Reception::addEvent(CorvaneEvent::Type type, const QString &text, qint64 timeUs)
 {
     increment(statistics.getData()->eventCounts.at(static_cast<size_t>(type)));

@@ -77,6 +77,11 @@ public:
     void receiveDamagedFrame(const FrameHeader &frame, const QString &reason);
     /** \a position: offset in the stream of the first of \a count bytes that belong to no frame. */
     void skipBytes(quint64 position, quint64 count, qint64 timeUs);
+    /**
+     * What comes next does not follow what came last: the source was lost meanwhile, or another
+     * place of a recording is read. So the step to it is neither a loss nor an interval.
+     */
+    void noteDiscontinuity();
     /** Any other event. \a timeUs: microseconds since 1970, or DecodedMessage::unknownTime. */
     void addEvent(CorvaneEvent::Type type, const QString &text, qint64 timeUs);
 

@@ -49,4 +49,10 @@ SenderStatistics *SenderTable::find(quint32 senderId) const
     return byId.value(senderId);
 }
 
+void SenderTable::forgetSequences()
+{
+    for (const auto &sender : all)
+        sender->lastSequence.reset();
+}
+
 } // namespace corvane

@@ -42,6 +42,9 @@ public:
     /** The sender of that id, or null where it has not been seen. */
     SenderStatistics *find(quint32 senderId) const;
 
+    /** The next frame of each sender is as its first one: nothing is missing before it. */
+    void forgetSequences();
+
     QString nameOf(quint32 senderId) const { return namer(senderId); }
 
     const std::vector<std::unique_ptr<SenderStatistics>> &getAll() const { return all; }
