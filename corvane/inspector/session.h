@@ -15,6 +15,7 @@
 namespace corvane {
 
 class ByteSource;
+class Reconnector;
 class StreamPump;
 
 /** One source that is watched: its definitions, its bytes, and what was received from it. */
@@ -55,9 +56,16 @@ Q_SIGNALS:
     void finished();
     /** The source could not be opened, or broke; \a message says what, where and what to do. */
     void failed(const QString &message);
+    /**
+     * How it stands with a live source that is watched in a window, in words: it is opened again
+     * when it goes away, and so neither finishes nor fails.
+     */
+    void stateChanged(const QString &text);
 
 private:
     void needAllTypes();
+    void keepOpen();
+    void addEvent(CorvaneEvent::Type type, const QString &text);
 
     MavlinkFormat format;
     std::unique_ptr<Reception> reception;
@@ -67,6 +75,7 @@ private:
     std::unique_ptr<ByteSource> source;
     std::unique_ptr<MavlinkDecoder> decoder;
     std::unique_ptr<StreamPump> pump;
+    std::unique_ptr<Reconnector> reconnector; ///< Null for a source that is opened once.
 };
 
 } // namespace corvane
