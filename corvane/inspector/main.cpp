@@ -107,6 +107,7 @@ int runWindow(const Options &options)
             QCoreApplication::translate("main", "End of %1").arg(session.getSourceName()));
     });
     QObject::connect(&session, &Session::failed, &window, &corvane::MainWindow::showState);
+    QObject::connect(&session, &Session::stateChanged, &window, &corvane::MainWindow::showState);
     session.start(options);
     if (options.source) {
         window.setWindowTitle(session.getSourceName() + QStringLiteral(" - ")

@@ -33,6 +33,7 @@ constexpr std::array optionTexts{
     OptionText{"report", "text|json",
                "Read the source to its end without a window and print what arrived."},
     OptionText{"duration", "SECONDS", "With --report: stop after this time."},
+    OptionText{"restart", nullptr, "Start a program (exec:) again when it has ended."},
     OptionText{"screenshot", "FILE", "Write the window as a PNG file and exit."},
     OptionText{"after", "SECONDS", "With --screenshot: when to write it; 3 by default."},
     OptionText{"help", nullptr, "Print this help."},
@@ -72,6 +73,7 @@ public:
     {
         options.definitions = parser.values(QStringLiteral("definitions"));
         options.overlays = parser.values(QStringLiteral("overlay"));
+        options.restartsProgram = parser.isSet(QStringLiteral("restart"));
         options.screenshotFile = parser.value(QStringLiteral("screenshot"));
         readFraming();
         readReport();
@@ -171,6 +173,10 @@ private:
         if (options.source && options.definitions.isEmpty())
             complain(tr("Messages cannot be read without their definitions: name a MAVLink dialect "
                         "with --definitions FILE."));
+        const bool isProgram
+            = options.source && options.source->kind == SourceAddress::Kind::Program;
+        if (options.restartsProgram && (!isProgram || reports))
+            complain(tr("--restart goes with a source exec:COMMAND that is shown in the window."));
         if (options.durationSeconds && !reports)
             complain(tr("--duration goes with --report."));
         if (parser.isSet(QStringLiteral("after")) && !photographs)

@@ -29,6 +29,9 @@ struct Options
     static Options parse(const QStringList &arguments);
     static QString getHelpText();
 
+    /** Whether the source is watched in a window, rather than read through once. */
+    bool opensWindow() const { return report == Report::None; }
+
     Wish wish = Wish::Run;
     QString error;
     QStringList definitions;
@@ -38,6 +41,7 @@ struct Options
         = 1.0; ///< Times the recorded pace; nothing for as fast as possible.
     Report report = Report::None;
     std::optional<double> durationSeconds;
+    bool restartsProgram = false; ///< When a source that is a program has ended.
     QString screenshotFile;
     double screenshotAfterSeconds = 3.0;
     std::optional<SourceAddress> source;

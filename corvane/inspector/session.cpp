@@ -1,22 +1,44 @@
 #include "session.h"
 
 #include "bytesource.h"
+#include "decodedmessage.h"
 #include "descriptions.h"
 #include "mavlinkformat.h"
 #include "messageinfo.h"
 #include "overlayloader.h"
+#include "reconnector.h"
 #include "streamdecoder.h"
 #include "streampump.h"
 
 #include <QDateTime>
+#include <QFileInfo>
 
 namespace corvane {
+
+namespace {
+
+bool isOpenedAgain(const Options &options)
+{
+    switch (options.source->kind) {
+    case SourceAddress::Kind::File:
+    case SourceAddress::Kind::StandardInput:
+        return false;
+    case SourceAddress::Kind::Program:
+        return options.opensWindow() && options.restartsProgram;
+    default:
+        return options.opensWindow();
+    }
+}
+
+} // namespace
 
 Session::Session(QObject *parent)
     : QObject(parent)
     , format(std::make_unique<MavlinkFormat>())
     , reception(std::make_unique<Reception>(*format))
 {
+    connect(&recorder, &Recorder::failed, this,
+            [this](const QString &message) { addEvent(CorvaneEvent::Other, message); });
 }
 
 Session::~Session() = default;
@@ -51,34 +73,74 @@ void Session::start(const Options &options)
         return;
     source = createSource(*options.source);
     decoder = format->makeDecoder(*reception, options.framing);
-    const bool atOnce = options.report != Options::Report::None || !options.speed;
+    const bool atOnce = !options.opensWindow() || !options.speed;
     if (!atOnce)
         clock.setSpeed(*options.speed);
     pump = std::make_unique<StreamPump>(*source, *decoder, atOnce ? nullptr : &clock);
-    connect(source.get(), &ByteSource::opened, this, [this] {
-        addSourceEvent(CorvaneEvent::SourceOpened, tr("Opened: %1").arg(source->getName()));
-    });
-    connect(pump.get(), &StreamPump::finished, this, [this] {
-        addSourceEvent(CorvaneEvent::SourceClosed, tr("At its end: %1").arg(source->getName()));
-        Q_EMIT finished();
-    });
-    connect(pump.get(), &StreamPump::failed, this, [this](const QString &message) {
-        addSourceEvent(CorvaneEvent::SourceFailed, message);
-        Q_EMIT failed(message);
-    });
+    if (isOpenedAgain(options)) {
+        keepOpen();
+    } else {
+        connect(source.get(), &ByteSource::opened, this, [this] {
+            addEvent(CorvaneEvent::SourceOpened, tr("Opened %1.").arg(source->getName()));
+        });
+        connect(pump.get(), &StreamPump::finished, this, [this] {
+            addEvent(CorvaneEvent::SourceClosed, tr("%1 has ended.").arg(source->getName()));
+            Q_EMIT finished();
+        });
+        connect(pump.get(), &StreamPump::failed, this, [this](const QString &message) {
+            addEvent(CorvaneEvent::SourceFailed, message);
+            Q_EMIT failed(message);
+        });
+    }
+    connect(pump.get(), &StreamPump::chunkRead, &recorder, &Recorder::write);
     pump->start();
 }
 
-void Session::addSourceEvent(CorvaneEvent::Type type, const QString &text)
+void Session::keepOpen()
+{
+    reconnector = std::make_unique<Reconnector>(*pump, *source);
+    connect(reconnector.get(), &Reconnector::opened, this, [this] {
+        addEvent(CorvaneEvent::SourceOpened, tr("Opened %1.").arg(source->getName()));
+    });
+    connect(reconnector.get(), &Reconnector::lost, this, [this](const QString &reason) {
+        if (reason.isEmpty())
+            addEvent(CorvaneEvent::SourceClosed, tr("%1 has ended.").arg(source->getName()));
+        else
+            addEvent(CorvaneEvent::SourceFailed, reason);
+    });
+    connect(reconnector.get(), &Reconnector::aboutToReopen, this, [this] {
+        // What was sent meanwhile is told of by the two events, not as a number of losses.
+        decoder->reset(reception->getTotals().bytes);
+        reception->noteDiscontinuity();
+    });
+    connect(reconnector.get(), &Reconnector::stateChanged, this, &Session::stateChanged);
+}
+
+void Session::addEvent(CorvaneEvent::Type type, const QString &text)
 {
     reception->flushEvents();
-    reception->addEvent(type, text, QDateTime::currentMSecsSinceEpoch() * 1000);
+    const bool isLive = source && source->isLive();
+    reception->addEvent(type, text,
+                        isLive ? QDateTime::currentMSecsSinceEpoch() * 1000
+                               : DecodedMessage::unknownTime);
 }
 
 void Session::stop()
 {
+    if (reconnector)
+        reconnector->stop();
     if (pump)
         pump->stop();
+}
+
+QString Session::startRecording(const QString &path)
+{
+    const QFileInfo file(path);
+    if (source && source->getSize() && file == QFileInfo(source->getName()))
+        return tr("Cannot record to \"%1\": it is the file that is being read. Choose another "
+                  "name.")
+            .arg(path);
+    return recorder.start(path) ? QString() : recorder.getErrorMessage();
 }
 
 QString Session::getSourceName() const

@@ -3,6 +3,7 @@
 #include "messageneed.h"
 #include "options.h"
 #include "reception.h"
+#include "recorder.h"
 #include "replayclock.h"
 
 #include <QObject>
@@ -14,6 +15,7 @@ namespace corvane {
 class ByteSource;
 class StreamDecoder;
 class StreamFormat;
+class Reconnector;
 class StreamPump;
 
 /** One source that is watched: its definitions, its bytes, and what was received from it. */
@@ -32,6 +34,14 @@ public:
     /** Stops reading; what was received stays. */
     void stop();
 
+    /**
+     * Records the bytes of the source to a file from now on, until getRecorder().stop(). Returns
+     * what is wrong, or nothing. The event log tells when a recording ends by itself.
+     */
+    QString startRecording(const QString &path);
+
+    Recorder &getRecorder() { return recorder; }
+
     Reception &getReception() { return *reception; }
 
     const Reception &getReception() const { return *reception; }
@@ -46,18 +56,26 @@ Q_SIGNALS:
     void finished();
     /** The source could not be opened, or broke; \a message says what, where and what to do. */
     void failed(const QString &message);
+    /**
+     * How it stands with a live source that is watched in a window, in words: it is opened again
+     * when it goes away, and so neither finishes nor fails.
+     */
+    void stateChanged(const QString &text);
 
 private:
     void needAllTypes();
-    void addSourceEvent(CorvaneEvent::Type type, const QString &text);
+    void keepOpen();
+    void addEvent(CorvaneEvent::Type type, const QString &text);
 
     std::unique_ptr<StreamFormat> format;
     std::unique_ptr<Reception> reception;
     MessageNeed need{nullptr};
     ReplayClock clock;
+    Recorder recorder;
     std::unique_ptr<ByteSource> source;
     std::unique_ptr<StreamDecoder> decoder;
     std::unique_ptr<StreamPump> pump;
+    std::unique_ptr<Reconnector> reconnector; ///< Null for a source that is opened once.
 };
 
 } // namespace corvane

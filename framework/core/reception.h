@@ -85,14 +85,16 @@ public:
     void receiveDamagedFrame(const FrameHeader &frame, const QString &reason);
     /** \a position: offset in the stream of the first of \a count bytes that belong to no frame. */
     void skipBytes(quint64 position, quint64 count, qint64 timeUs);
+    /**
+     * What comes next does not follow what came last: the source was lost meanwhile, or another
+     * place of a recording is read. So the step to it is neither a loss nor an interval.
+     */
+    void noteDiscontinuity();
     /** Any other event. \a timeUs: microseconds since 1970, or DecodedMessage::unknownTime. */
     void addEvent(CorvaneEvent::Type type, const QString &text, qint64 timeUs);
 
     /** Lets events that were only counted so far enter the log; for the end of a stream. */
     void flushEvents() { gatherer.flush(); }
-
-    /** What follows does not go on where the stream was: no losses, intervals or gaps to it. */
-    void noteDiscontinuity();
 
 private:
     void

@@ -40,6 +40,14 @@ public:
     virtual Step step() = 0;
     /** The recorded time of what step() would read next, in microseconds; nothing if unknown. */
     virtual std::optional<qint64> getNextTimeUs() const = 0;
+    /** The offset in the stream of the byte that step() would read next. */
+    virtual quint64 getPosition() const = 0;
+    /**
+     * Begins anew behind a break: forgets what was appended and not read, and finish(). The bytes
+     * that are appended next stand at \a position of the stream. What was found out about the
+     * stream as a whole, such as its framing, stays. Not to be called within step().
+     */
+    virtual void reset(quint64 position) = 0;
 };
 
 } // namespace corvane

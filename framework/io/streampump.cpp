@@ -120,7 +120,9 @@ StreamPump::Outcome StreamPump::fetch()
     const std::optional<qint64> arrivalUs
         = source.isLive() ? std::optional(getSystemTimeUs()) : std::nullopt;
     state = State::Decoding;
-    decoder.append(QByteArrayView(chunk.constData(), count), arrivalUs);
+    const QByteArrayView bytes(chunk.constData(), count);
+    Q_EMIT chunkRead(bytes);
+    decoder.append(bytes, arrivalUs);
     return Outcome::Continue;
 }
 

@@ -3,6 +3,7 @@
 #include "corvaneframework_export.h"
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QObject>
 #include <QTimer>
 
@@ -60,6 +61,8 @@ public:
     void setSlice(std::chrono::milliseconds newSlice) { slice = newSlice; }
 
 Q_SIGNALS:
+    /** Bytes exactly as they were read, before they are decoded; valid within the signal only. */
+    void chunkRead(QByteArrayView bytes);
     /** Emitted once, after the last frame of a source that came to its regular end. */
     void finished();
     /** Emitted once instead of finished(), also after the last frame; \a message is the source's.

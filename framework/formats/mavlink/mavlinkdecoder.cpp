@@ -78,6 +78,18 @@ void MavlinkDecoder::finish()
     finished = true;
 }
 
+void MavlinkDecoder::reset(quint64 newPosition)
+{
+    reportSkipped();
+    buffer.clear();
+    position = 0;
+    streamPosition = newPosition;
+    examined = 0;
+    arrivalUs.reset();
+    inStep = true;
+    finished = false;
+}
+
 QByteArrayView MavlinkDecoder::getRest(size_t from) const
 {
     return QByteArrayView(buffer.data() + from, static_cast<qsizetype>(buffer.size() - from));

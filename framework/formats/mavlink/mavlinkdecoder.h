@@ -46,6 +46,10 @@ public:
     Step step() override;
     std::optional<qint64> getNextTimeUs() const override;
 
+    quint64 getPosition() const override { return streamPosition; }
+
+    void reset(quint64 newPosition) override;
+
     MavlinkFraming getFraming() const { return framing; }
 
 private:

@@ -141,8 +141,8 @@ void tst_inspector::jsonReport_ofRecording_hasEveryKey()
                           "missingEpochs", "name", "regular", "unknownInterval", "unknownTime"}));
     QCOMPARE(first.value("format").toString(), QStringLiteral("MAVLink"));
     const QJsonArray events = report.value("events").toArray();
-    QVERIFY(events.first()["text"].toString().startsWith("Opened: "));
-    QVERIFY(events.last()["text"].toString().startsWith("At its end: "));
+    QVERIFY(events.first()["text"].toString().startsWith("Opened "));
+    QVERIFY(events.last()["text"].toString().endsWith(" has ended."));
     const QJsonObject event = events.at(1).toObject();
     QCOMPARE(event.value("time").toString(), QStringLiteral("2026-01-01T12:00:22.200Z"));
     QVERIFY(event.value("text").toString().startsWith(

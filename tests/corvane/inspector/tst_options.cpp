@@ -53,6 +53,9 @@ void tst_options::parse_everyOption_isTaken()
     QCOMPARE(options.durationSeconds, std::optional(1.5));
     QCOMPARE(options.source->text, QStringLiteral("c.tlog"));
 
+    QVERIFY(!options.restartsProgram);
+    QVERIFY(parse(QStringLiteral("--definitions a.xml --restart exec:b")).restartsProgram);
+
     const Options picture
         = parse(QStringLiteral("--framing raw --screenshot w.png --after 7 --definitions a.xml -"));
     QCOMPARE(picture.framing, QStringLiteral("raw"));
@@ -119,6 +122,10 @@ void tst_options::parse_mistake_isExplained_data()
                                    << "seconds";
     QTest::newRow("duration alone") << "--duration 3"
                                     << "--duration goes with --report";
+    QTest::newRow("restart of no program") << "--definitions a --restart udp://:1"
+                                           << "--restart goes with a source exec:COMMAND";
+    QTest::newRow("restart without window") << "--definitions a --restart --report text exec:b"
+                                            << "--restart goes with a source exec:COMMAND";
     QTest::newRow("duration negative") << "--definitions a --report text --duration=-1 b"
                                        << "-1";
     QTest::newRow("after alone") << "--after 3"

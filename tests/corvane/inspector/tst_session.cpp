@@ -4,8 +4,13 @@
 #include "testcase.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTemporaryDir>
+
+#include <memory>
 
 using namespace corvane;
 using namespace corvane::test;
@@ -21,6 +26,12 @@ private Q_SLOTS:
     void start_atOwnPace_waitsForTheFrames();
     void start_missingFile_failsAndSaysSo();
     void getSourceName_withoutSource_isEmpty();
+    void reconnect_beginsAfreshAndIsInTheLog();
+    void reconnect_notWithoutWindow();
+    void program_isStartedAgainIfAskedFor();
+    void recording_hasTheBytesOfTheSource();
+    void recording_toTheSourceItself_isRefused();
+    void recording_failure_isInTheLog();
 };
 
 namespace {
@@ -33,6 +44,12 @@ Options recordingOptions()
     options.source
         = SourceAddress::parse(sourceFile(QStringLiteral("examples/recording/rover.tlog"))).address;
     return options;
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
 }
 
 } // namespace
@@ -130,6 +147,143 @@ void tst_session::getSourceName_withoutSource_isEmpty()
     QCOMPARE(session.load({}), QStringList());
     session.start({});
     QCOMPARE(session.getSourceName(), QString());
+}
+
+void tst_session::reconnect_beginsAfreshAndIsInTheLog()
+{
+    Options options = recordingOptions();
+    const QByteArray recording = readFile(options.source->text);
+    const qsizetype cut = 20'000;
+    auto server = std::make_unique<QTcpServer>();
+    QVERIFY(server->listen(QHostAddress::LocalHost));
+    const quint16 port = server->serverPort();
+    options.source = SourceAddress::parse(QStringLiteral("tcp://127.0.0.1:%1").arg(port)).address;
+    options.speed.reset();
+    Session session;
+    session.load(options);
+    const Reception::Totals &totals = session.getReception().getTotals();
+    QSignalSpy states(&session, &Session::stateChanged);
+    QSignalSpy ended(&session, &Session::finished);
+    session.start(options);
+    QTRY_VERIFY(server->hasPendingConnections());
+    QTcpSocket *peer = server->nextPendingConnection();
+    peer->write(recording.first(cut));
+    QTRY_COMPARE(totals.bytes, quint64(cut));
+    server.reset();
+    QTRY_VERIFY(!states.isEmpty()
+                && states.last().first().toString().contains(QStringLiteral("trying again")));
+
+    server = std::make_unique<QTcpServer>();
+    QVERIFY(server->listen(QHostAddress::LocalHost, port));
+    QTRY_VERIFY(server->hasPendingConnections());
+    // Many frames later in the recording: what was missed is not told of as lost.
+    const qsizetype later = recording.indexOf(QByteArray("\xFD"), 60'000) - 8;
+    server->nextPendingConnection()->write(recording.sliced(later));
+    QTRY_COMPARE(totals.bytes, quint64(cut + recording.size() - later));
+
+    QCOMPARE(ended.size(), 0);
+    QList<CorvaneEvent::Type> types;
+    for (const auto &entry : session.getReception().getEventLog()->getEntries())
+        types += entry.event.getType();
+    // Only the frame that was cut by the break.
+    QVERIFY(totals.skippedBytes < 300);
+    QCOMPARE(types, (QList{CorvaneEvent::SourceOpened, CorvaneEvent::LostBytes,
+                           CorvaneEvent::SourceClosed, CorvaneEvent::SourceOpened}));
+    QVERIFY(session.getReception().getEventLog()->getEntries().first().time.isValid());
+}
+
+void tst_session::reconnect_notWithoutWindow()
+{
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    Options options = recordingOptions();
+    options.report = Options::Report::Text;
+    options.source
+        = SourceAddress::parse(QStringLiteral("tcp://127.0.0.1:%1").arg(server.serverPort()))
+              .address;
+    Session session;
+    session.load(options);
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    QTRY_VERIFY(server.hasPendingConnections());
+    server.nextPendingConnection()->close();
+    QTRY_COMPARE(finished.size(), 1);
+}
+
+void tst_session::program_isStartedAgainIfAskedFor()
+{
+    Options options = recordingOptions();
+    const auto bytes = quint64(QFileInfo(options.source->text).size());
+    options.source
+        = SourceAddress::parse(QStringLiteral("exec:cat '%1'").arg(options.source->text)).address;
+    options.speed.reset();
+    Session once;
+    once.load(options);
+    QSignalSpy finished(&once, &Session::finished);
+    once.start(options);
+    QTRY_COMPARE(finished.size(), 1);
+
+    options.restartsProgram = true;
+    Session again;
+    again.load(options);
+    QSignalSpy never(&again, &Session::finished);
+    again.start(options);
+    QTRY_COMPARE(again.getReception().getTotals().bytes, 2 * bytes);
+    QCOMPARE(again.getReception().getTotals().frames, 2 * 1737U);
+    QCOMPARE(never.size(), 0);
+    again.stop();
+}
+
+void tst_session::recording_hasTheBytesOfTheSource()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("recording"));
+    Options options = recordingOptions();
+    options.speed.reset();
+    Session session;
+    session.load(options);
+    QCOMPARE(session.startRecording(path), QString());
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    QVERIFY(finished.wait());
+    QVERIFY(session.getRecorder().stop());
+    QVERIFY(readFile(path) == readFile(options.source->text));
+}
+
+void tst_session::recording_toTheSourceItself_isRefused()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("copy.tlog"));
+    Options options = recordingOptions();
+    QVERIFY(QFile::copy(options.source->text, path));
+    const QByteArray before = readFile(path);
+    options.source->text = path;
+    Session session;
+    session.load(options);
+    session.start(options);
+    const QString same = folder.filePath(QStringLiteral("./copy.tlog"));
+    QVERIFY(session.startRecording(same).contains(QStringLiteral("being read")));
+    QVERIFY(!session.getRecorder().isRecording());
+    QVERIFY(readFile(path) == before);
+}
+
+void tst_session::recording_failure_isInTheLog()
+{
+    const QString full = QStringLiteral("/dev/full");
+    if (!QFile::exists(full))
+        QSKIP("no /dev/full here");
+    Options options = recordingOptions();
+    options.speed.reset();
+    Session session;
+    session.load(options);
+    QCOMPARE(session.startRecording(full), QString());
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    QVERIFY(finished.wait());
+    QTRY_VERIFY(!session.getRecorder().isRecording());
+    QCOMPARE(session.getReception().getTotals().frames, 1737U);
+    const auto entries = session.getReception().getEventLog()->getEntries();
+    QVERIFY(entries.constLast().event.getMessage().contains(QStringLiteral("the disk is full")));
 }
 
 CORVANE_TEST_MAIN(tst_session)

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void damagedFrames_areCountedAndLogged();
     void formatWithoutChecksum_hasNoErrorCount();
     void losses_areLoggedPerSender();
+    void discontinuity_isNeitherLossNorInterval();
     void skippedBytes_areCountedAndLogged();
     void events_carryTheirTime();
     void damage_isCountedBySenderAndClaimedType();
@@ -231,6 +232,33 @@ void TestReception::losses_areLoggedPerSender()
              QStringList({"Sender 1/1: 2 messages lost before sequence number 13."}));
     QCOMPARE(reception.getSenders().getAll().at(0)->lost, 2U);
     QCOMPARE(reception.getSenders().getAll().at(1)->lost, 0U);
+}
+
+void TestReception::discontinuity_isNeitherLossNorInterval()
+{
+    Reception reception(format.getInfo(), nameOf, true);
+    const auto receive = [&](quint8 sequence, quint32 sender, qint64 timeUs) {
+        FrameHeader header = frame("A", sequence, sender);
+        header.timeUs = timeUs;
+        reception.receiveFrame(header);
+    };
+    receive(10, 1, 1'000'000);
+    receive(11, 1, 2'000'000);
+    receive(77, 2, 3'000'000);
+    reception.noteDiscontinuity();
+    receive(100, 1, 9'000'000);
+    receive(7, 2, 9'500'000);
+
+    QCOMPARE(logOf(reception), QStringList());
+    const MessageStatistics *statistics
+        = reception.getStatistics()->getAllMessageStatistics().at(0);
+    QCOMPARE(statistics->getCount(), 5U);
+    // Of each sender the first one ever, and the first one behind the break.
+    QCOMPARE(statistics->getCountWithKnownTimeButUnknownInterval(), 4U);
+    QCOMPARE(statistics->getIntervalCountHash(), (QHash<long long, unsigned int>{{1000, 1}}));
+    receive(9, 2, 10'000'000);
+    QCOMPARE(logOf(reception),
+             QStringList({"Sender 2/1: 1 messages lost before sequence number 9."}));
 }
 
 void TestReception::skippedBytes_areCountedAndLogged()

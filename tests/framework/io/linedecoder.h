@@ -51,6 +51,16 @@ public:
         return isNumber ? std::optional(timeUs) : std::nullopt;
     }
 
+    quint64 getPosition() const override { return bufferOffset + quint64(position); }
+
+    void reset(quint64 newPosition) override
+    {
+        buffer.clear();
+        position = 0;
+        bufferOffset = newPosition;
+        finished = false;
+    }
+
     std::function<void(const QString &frame)> onFrame;
     bool keepsFrames = true;
     QStringList frames;
@@ -62,12 +72,14 @@ public:
 private:
     Step needBytes()
     {
+        bufferOffset += quint64(position);
         buffer.remove(0, std::exchange(position, 0));
         return Step::NeedsBytes;
     }
 
     QByteArray buffer;
     qsizetype position = 0;
+    quint64 bufferOffset = 0; ///< In the stream, of the buffer's first byte.
 };
 
 } // namespace corvane::test

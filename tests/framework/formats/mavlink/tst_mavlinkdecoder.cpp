@@ -51,6 +51,9 @@ private Q_SLOTS:
     void needs_decideWhatIsDelivered();
     void incompleteFrame_waitsForItsRest();
     void longerPayload_isAccepted();
+    void position_isThatOfTheNextFrame();
+    void reset_forgetsWhatWasNotRead();
+    void reset_keepsTheFraming();
 
 private:
     QByteArray small(quint8 sequence, quint32 value = 0x01020304) const;
@@ -399,6 +402,44 @@ void tst_MavlinkDecoder::longerPayload_isAccepted()
     run.finish();
     QCOMPARE(run.getFrames(), (QList<QByteArray>{small(0), frame, frame}));
     QCOMPARE(*run.getTotals().crcErrors, quint64(1));
+}
+
+void tst_MavlinkDecoder::position_isThatOfTheNextFrame()
+{
+    DecoderRun run(*format, MavlinkFraming::Raw);
+    QCOMPARE(run.getDecoder().getPosition(), quint64(0));
+    run.append("junk" + small(0) + small(1).left(5));
+    QCOMPARE(run.getDecoder().getPosition(), quint64(4 + small(0).size()));
+}
+
+void tst_MavlinkDecoder::reset_forgetsWhatWasNotRead()
+{
+    DecoderRun run(*format, MavlinkFraming::Raw);
+    run.append(small(0) + small(1).left(5));
+    run.getDecoder().reset(1000);
+    QCOMPARE(run.getDecoder().getPosition(), quint64(1000));
+    run.append(small(2) + "xyz");
+    run.finish();
+    run.getDecoder().reset(2000);
+    run.append(small(3) + small(4).left(5));
+    QCOMPARE(run.getFrames(), (QList<QByteArray>{small(0), small(2), small(3)}));
+    const quint64 offset = 1000 + quint64(small(2).size());
+    QCOMPARE(run.getEvents(CorvaneEvent::LostBytes),
+             QStringList{QStringLiteral("3 bytes from offset %1 belong to no frame.").arg(offset)});
+    // After finish() the rest would have been told of as belonging to no frame.
+    QCOMPARE(run.getDecoder().step(), StreamDecoder::Step::NeedsBytes);
+}
+
+void tst_MavlinkDecoder::reset_keepsTheFraming()
+{
+    DecoderRun run(*format);
+    run.append(stamped(small(0), someTimeUs) + stamped(small(1), someTimeUs));
+    QCOMPARE(run.getDecoder().getFraming(), MavlinkFraming::TimeStamped);
+    run.getDecoder().reset(0);
+    // Without a frame behind it, and with a start byte in its time, it could be taken for others.
+    run.append(stamped(small(5), 0xFD00'0000'0000'00FD >> 8));
+    QCOMPARE(run.getFrames().size(), 3);
+    QCOMPARE(run.getDecoder().getFraming(), MavlinkFraming::TimeStamped);
 }
 
 CORVANE_TEST_MAIN(tst_MavlinkDecoder)
