@@ -56,14 +56,15 @@ void Receiver::writePending()
     qsizetype written = 0;
     while (written < pending.size()) {
         const qint64 count = writeSome(written);
-        if (count < 0 && errno != EAGAIN && errno != EINTR) {
+        const int error = count < 0 ? errno : 0;
+        if (error == EAGAIN)
+            break;
+        if (error != 0 && error != EINTR) {
             isClosed = true;
             notifier.setEnabled(false);
-            Q_EMIT closed(errno);
+            Q_EMIT closed(error);
             return;
         }
-        if (count < 0 && errno == EAGAIN)
-            break;
         written += std::max<qint64>(count, 0);
     }
     pending.remove(0, written);

@@ -1,5 +1,7 @@
 #include "decompression.h"
 
+#include <QtEndian>
+
 #include <lz4frame.h>
 #include <zstd.h>
 
@@ -100,16 +102,35 @@ Decompression decompressWith(Stream stream, QByteArrayView input, quint64 maximu
     }
 }
 
-constexpr std::array<quint32, 256> makeCrcTable()
+using CrcTables = std::array<std::array<quint32, 256>, 8>;
+
+/** Table n: what a byte does to the checksum when n bytes follow it. */
+constexpr CrcTables makeCrcTables()
 {
-    std::array<quint32, 256> table{};
-    for (quint32 i = 0; i < table.size(); ++i) {
+    CrcTables tables{};
+    for (quint32 i = 0; i < 256; ++i) {
         quint32 value = i;
         for (int bit = 0; bit < 8; ++bit)
             value = (value & 1) != 0 ? (value >> 1) ^ 0xedb88320 : value >> 1;
-        table[i] = value;
+        tables[0][i] = value;
     }
-    return table;
+    for (size_t n = 1; n < tables.size(); ++n) {
+        for (size_t i = 0; i < 256; ++i)
+            tables[n][i] = tables[0][tables[n - 1][i] & 0xff] ^ (tables[n - 1][i] >> 8);
+    }
+    return tables;
+}
+
+constexpr CrcTables crcTables = makeCrcTables();
+
+/** Takes eight bytes at once. */
+quint32 advanceCrc(quint32 crc, quint64 eightBytes)
+{
+    eightBytes ^= crc;
+    quint32 result = 0;
+    for (size_t i = 0; i < crcTables.size(); ++i)
+        result ^= crcTables[7 - i][(eightBytes >> (8 * i)) & 0xff];
+    return result;
 }
 
 } // namespace
@@ -133,10 +154,11 @@ Decompression decompress(const QString &method, QByteArrayView bytes, quint64 ma
 
 quint32 getCrc32(QByteArrayView bytes)
 {
-    static constexpr std::array<quint32, 256> table = makeCrcTable();
     quint32 crc = 0xffffffff;
+    for (; bytes.size() >= 8; bytes = bytes.sliced(8))
+        crc = advanceCrc(crc, qFromLittleEndian<quint64>(bytes.data()));
     for (const char byte : bytes)
-        crc = table[(crc ^ static_cast<quint8>(byte)) & 0xff] ^ (crc >> 8);
+        crc = crcTables[0][(crc ^ static_cast<quint8>(byte)) & 0xff] ^ (crc >> 8);
     return ~crc;
 }
 
