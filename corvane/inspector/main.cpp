@@ -1,11 +1,12 @@
-#include "mainwindow.h"
 #include "options.h"
 #include "report.h"
 #include "session.h"
+#include "workbench.h"
 
 #include <QApplication>
 #include <QSettings>
 #include <QTimer>
+#include <QWidget>
 
 #include <cstdio>
 #include <memory>
@@ -79,11 +80,11 @@ int runReport(const Options &options)
     return 0;
 }
 
-void writeScreenshotLater(corvane::MainWindow &window, const Options &options)
+void writeScreenshotLater(const corvane::Workbench &workbench, const Options &options)
 {
     QTimer::singleShot(
-        millisecondsOf(options.screenshotAfterSeconds), &window, [&window, &options] {
-            const bool written = window.grab().save(options.screenshotFile, "PNG");
+        millisecondsOf(options.screenshotAfterSeconds), &workbench, [&workbench, &options] {
+            const bool written = workbench.getWindow()->grab().save(options.screenshotFile, "PNG");
             if (!written)
                 complain(QCoreApplication::translate("main", "cannot write the screenshot \"%1\"")
                              .arg(options.screenshotFile));
@@ -93,30 +94,18 @@ void writeScreenshotLater(corvane::MainWindow &window, const Options &options)
 
 int runWindow(const Options &options)
 {
-    Session session;
-    const QStringList errors = session.load(options);
-    if (!errors.isEmpty())
-        return complain(errors.join(QLatin1Char('\n')));
-
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("corvane"),
                        QStringLiteral("corvane-inspector"));
-    corvane::MainWindow window(session, settings);
-    window.setWindowTitle(QCoreApplication::translate("main", "Corvane Inspector"));
-    QObject::connect(&session, &Session::finished, &window, [&] {
-        window.showState(
-            QCoreApplication::translate("main", "End of %1").arg(session.getSourceName()));
-    });
-    QObject::connect(&session, &Session::failed, &window, &corvane::MainWindow::showState);
-    QObject::connect(&session, &Session::stateChanged, &window, &corvane::MainWindow::showState);
-    session.start(options);
+    corvane::Workbench workbench(options, settings);
     if (options.source) {
-        window.setWindowTitle(session.getSourceName() + QStringLiteral(" - ")
-                              + window.windowTitle());
-        window.showState(session.getSourceName());
+        const QStringList errors = workbench.open(options);
+        if (!errors.isEmpty())
+            return complain(errors.join(QLatin1Char('\n')));
+    } else {
+        workbench.showOpenPanel();
     }
-    window.show();
     if (!options.screenshotFile.isEmpty())
-        writeScreenshotLater(window, options);
+        writeScreenshotLater(workbench, options);
     return QApplication::exec();
 }
 

@@ -2,6 +2,7 @@
 
 #include "eventlogpanel.h"
 #include "formpanel.h"
+#include "hostfeed.h"
 #include "latestmessages.h"
 #include "messageinfo.h"
 #include "messagestatistics.h"
@@ -14,10 +15,13 @@
 
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStatusBar>
@@ -51,6 +55,7 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     , sortedTypes(new QSortFilterProxyModel(this))
 {
     setDockNestingEnabled(true);
+    setAcceptDrops(true);
     createTypeView();
     createMenus();
     createPanels();
@@ -84,6 +89,10 @@ void MainWindow::createTypeView()
 void MainWindow::createMenus()
 {
     QMenu *fileMenu = menuBar()->addMenu(tr("&File"));
+    QAction *open = fileMenu->addAction(tr("&Open…"), this, &MainWindow::openRequested);
+    open->setShortcut(QKeySequence::Open);
+    open->setToolTip(tr("Choose another source, or other definitions"));
+    fileMenu->addSeparator();
     QAction *quit = fileMenu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence::Quit);
     viewMenu = menuBar()->addMenu(tr("&View"));
@@ -155,6 +164,18 @@ void MainWindow::closeEvent(QCloseEvent *event)
     watch->saveSettings(settings);
     statistics->saveSettings(settings);
     QMainWindow::closeEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    Q_EMIT filesDropped(localFilesOf(*event->mimeData()));
 }
 
 void MainWindow::createStatusBar()

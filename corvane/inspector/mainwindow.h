@@ -37,9 +37,17 @@ public:
     /** Shows \a text in the bar at the bottom until the next one. */
     void showState(const QString &text);
 
+Q_SIGNALS:
+    /** People want to choose another source. */
+    void openRequested();
+    /** People dropped files onto the window. */
+    void filesDropped(const QStringList &files);
+
 protected:
     /** Remembers the layout. */
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     void createTypeView();

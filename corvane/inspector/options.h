@@ -35,6 +35,7 @@ struct Options
     Wish wish = Wish::Run;
     QString error;
     QStringList definitions;
+    QString root; ///< The message type that a stream consists of, where that has to be said.
     QStringList overlays;
     QString framing; ///< One of the format's framings; empty for its default one.
     std::optional<double> speed
