@@ -1,5 +1,6 @@
 #include "mainwindow.h"
 
+#include "abstractplotpanel.h"
 #include "formpanel.h"
 #include "latestmessages.h"
 #include "messageinfo.h"
@@ -105,6 +106,18 @@ void MainWindow::createPanels()
         = addPanel(watch, QStringLiteral("watch"), tr("Watch"), Qt::RightDockWidgetArea);
     tabifyDockWidget(formDock, watchDock);
     formDock->raise();
+    createPlot();
+}
+
+void MainWindow::createPlot()
+{
+    plot = createPlotPanel(session.getReception());
+    if (plot == nullptr) {
+        viewMenu->addAction(tr("Plot (not in this build)"))->setEnabled(false);
+        return;
+    }
+    addPanel(plot, QStringLiteral("plot"), tr("Plot"), Qt::BottomDockWidgetArea);
+    connect(pauseAction, &QAction::toggled, plot, [this](bool paused) { plot->setPaused(paused); });
 }
 
 QDockWidget *MainWindow::addPanel(QWidget *panel,
@@ -127,6 +140,8 @@ void MainWindow::restoreLayout()
     restoreState(settings.value(layoutKey()).toByteArray());
     tree->restoreSettings(settings);
     watch->restoreSettings(settings);
+    if (plot != nullptr)
+        plot->restoreSettings(settings);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -135,6 +150,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     settings.setValue(layoutKey(), saveState());
     tree->saveSettings(settings);
     watch->saveSettings(settings);
+    if (plot != nullptr)
+        plot->saveSettings(settings);
     QMainWindow::closeEvent(event);
 }
 

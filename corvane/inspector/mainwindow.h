@@ -15,6 +15,7 @@ class QTreeView;
 
 namespace corvane {
 
+class AbstractPlotPanel;
 class FormPanel;
 class LatestMessages;
 class MessageTreePanel;
@@ -41,6 +42,7 @@ protected:
 private:
     void createTypeView();
     void createPanels();
+    void createPlot();
     void createMenus();
     void createStatusBar();
     void connectAll();
@@ -63,6 +65,7 @@ private:
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.
     WatchPanel *watch = nullptr; ///< Owned as a child.
+    AbstractPlotPanel *plot = nullptr; ///< Owned as a child; null in a build without it.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
     QAction *pauseAction = nullptr; ///< Owned as a child.
     QLabel *stateLabel = nullptr; ///< Owned as a child.
