@@ -1,5 +1,6 @@
 #include "mainwindow.h"
 
+#include "abstractplotpanel.h"
 #include "eventlogpanel.h"
 #include "formpanel.h"
 #include "hostfeed.h"
@@ -130,7 +131,20 @@ void MainWindow::createPanels()
         = addPanel(senders, QStringLiteral("senders"), tr("Senders"), Qt::BottomDockWidgetArea);
     tabifyDockWidget(statisticsDock, eventsDock);
     tabifyDockWidget(eventsDock, sendersDock);
+    createPlot(sendersDock);
     statisticsDock->raise();
+}
+
+void MainWindow::createPlot(QDockWidget *neighbour)
+{
+    plot = createPlotPanel(session.getReception());
+    if (plot == nullptr) {
+        viewMenu->addAction(tr("Plot (not in this build)"))->setEnabled(false);
+        return;
+    }
+    tabifyDockWidget(neighbour,
+                     addPanel(plot, QStringLiteral("plot"), tr("Plot"), Qt::BottomDockWidgetArea));
+    connect(pauseAction, &QAction::toggled, plot, [this](bool paused) { plot->setPaused(paused); });
 }
 
 QDockWidget *MainWindow::addPanel(QWidget *panel,
@@ -154,6 +168,8 @@ void MainWindow::restoreLayout()
     tree->restoreSettings(settings);
     watch->restoreSettings(settings);
     statistics->restoreSettings(settings);
+    if (plot != nullptr)
+        plot->restoreSettings(settings);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -163,6 +179,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     tree->saveSettings(settings);
     watch->saveSettings(settings);
     statistics->saveSettings(settings);
+    if (plot != nullptr)
+        plot->saveSettings(settings);
     QMainWindow::closeEvent(event);
 }
 

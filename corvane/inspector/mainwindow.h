@@ -15,6 +15,7 @@ class QTreeView;
 
 namespace corvane {
 
+class AbstractPlotPanel;
 class EventLogPanel;
 class FormPanel;
 class LatestMessages;
@@ -52,6 +53,7 @@ protected:
 private:
     void createTypeView();
     void createPanels();
+    void createPlot(QDockWidget *neighbour);
     void createMenus();
     void createStatusBar();
     void connectAll();
@@ -76,6 +78,7 @@ private:
     WatchPanel *watch = nullptr; ///< Owned as a child.
     StatisticsPanel *statistics = nullptr; ///< Owned as a child.
     SendersPanel *senders = nullptr; ///< Owned as a child.
+    AbstractPlotPanel *plot = nullptr; ///< Owned as a child; null in a build without it.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
     QAction *pauseAction = nullptr; ///< Owned as a child.
     QLabel *stateLabel = nullptr; ///< Owned as a child.

@@ -1,3 +1,4 @@
+#include "abstractplotpanel.h"
 #include "fieldvaluelabel.h"
 #include "mainwindow.h"
 #include "messagewidget.h"
@@ -33,6 +34,8 @@ private Q_SLOTS:
     void darkPalette_isFollowed();
     void totals_nameDamage();
     void paused_viewsStandStillAndTheBarSaysWhatCame();
+    void plot_isAPanelOrSaysThatItIsMissing();
+    void plot_isPausedAndRemembered();
     void layout_isRememberedByTheSettings();
     void layout_ofRandomBytes_startsWithTheDefault();
 };
@@ -207,6 +210,29 @@ void tst_mainwindow::paused_viewsStandStillAndTheBarSaysWhatCame()
     pause->trigger();
     QVERIFY(shown.form() != before);
     QVERIFY(!shown.says(QStringLiteral("Paused")));
+}
+
+void tst_mainwindow::plot_isAPanelOrSaysThatItIsMissing()
+{
+    const Shown shown;
+    const bool isThere = shown.window->findChild<QDockWidget *>(QStringLiteral("plot")) != nullptr;
+    QCOMPARE(shown.action(QStringLiteral("Plot")) != nullptr, isThere);
+    QCOMPARE(shown.action(QStringLiteral("Plot (not in this build)")) == nullptr, isThere);
+}
+
+void tst_mainwindow::plot_isPausedAndRemembered()
+{
+    Shown shown;
+    auto *dock = shown.window->findChild<QDockWidget *>(QStringLiteral("plot"));
+    if (dock == nullptr)
+        QSKIP("built without plot");
+    auto *plot = dynamic_cast<AbstractPlotPanel *>(dock->widget());
+    plot->addSeries(QStringLiteral("MAVLink.MOTION.heading"));
+    shown.action(QStringLiteral("&Pause the Views"))->trigger();
+    QVERIFY(shown.says(QStringLiteral("Paused, values are kept")));
+    shown.window->close();
+    QCOMPARE(shown.settings.value(QStringLiteral("plot/paths")).toStringList(),
+             QStringList(QStringLiteral("MAVLink.MOTION.heading")));
 }
 
 void tst_mainwindow::layout_isRememberedByTheSettings()

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+class MessageSource;
+class QSettings;
+
+namespace corvane {
+
+/** What the inspector's window knows of the plot, which a build can leave out. */
+class AbstractPlotPanel : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    /**
+     * Plots the numeric fields that \a path matches and are not plotted yet; says so where it
+     * cannot. An element of a repeated field stands in brackets, "Format.Message.samples[3]", or
+     * some, "samples[0..3]"; without brackets it is the first.
+     */
+    virtual void addSeries(const QString &path) = 0;
+    /** While paused the picture stands still; samples are kept all the same. */
+    virtual void setPaused(bool paused) = 0;
+    virtual void saveSettings(QSettings &settings) const = 0;
+    virtual void restoreSettings(QSettings &settings) = 0;
+};
+
+/**
+ * A plot of what \a messages sends, or null in a build without one. \a messages must outlive it;
+ * the caller owns it.
+ */
+AbstractPlotPanel *createPlotPanel(MessageSource &messages);
+
+} // namespace corvane

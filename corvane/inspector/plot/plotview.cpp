@@ -1,0 +1,583 @@
+#include "plotview.h"
+
+#include "plotcsv.h"
+
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QSaveFile>
+#include <QSvgGenerator>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvane {
+
+namespace {
+
+constexpr double zoomStep = 0.8;
+constexpr double panStep = 0.1;
+constexpr double secondsPerUs = 1e-6;
+constexpr double valueMargin = 0.05;
+// Smooth lines are slow; many points hide the steps of the others.
+constexpr size_t maximumSmoothPoints = 6000;
+constexpr double imageScale = 2.0;
+
+double secondsOf(qint64 timeUs)
+{
+    return static_cast<double>(timeUs) * secondsPerUs;
+}
+
+QCPAxis::AxisType axisTypeOf(PlotSeries::Side side)
+{
+    return side == PlotSeries::Side::Left ? QCPAxis::atLeft : QCPAxis::atRight;
+}
+
+QString timeFormatFor(qint64 spanUs)
+{
+    if (spanUs < 5'000'000)
+        return QStringLiteral("HH:mm:ss.zzz");
+    constexpr qint64 hourUs = 3'600'000'000;
+    return spanUs < 24 * hourUs ? QStringLiteral("HH:mm:ss") : QStringLiteral("yyyy-MM-dd\nHH:mm");
+}
+
+QCPRange withMargin(const QCPRange &range)
+{
+    const double size = range.size();
+    // A constant value lies in the middle of a range that it can be read in.
+    const double margin
+        = size > 0 ? size * valueMargin : std::max(std::abs(range.lower) * valueMargin, 0.5);
+    return {range.lower - margin, range.upper + margin};
+}
+
+} // namespace
+
+PlotView::PlotView(const PlotSeriesList &series, QWidget *parent)
+    : QCustomPlot(parent)
+    , series(series)
+    , cursorLine(new QCPItemStraightLine(this))
+    , timeTicker(new QCPAxisTickerDateTime)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setMinimumSize(fontMetrics().averageCharWidth() * 20, fontMetrics().height() * 4);
+    setAccessibleName(tr("Plot"));
+    setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
+    createTimeAxis();
+    createPlaceholder();
+    cursorLine->setVisible(false);
+    frameTimer.setSingleShot(true);
+    frameTimer.setInterval(frameMs);
+    connect(&frameTimer, &QTimer::timeout, this, &PlotView::refresh);
+    rebuild();
+}
+
+void PlotView::createTimeAxis()
+{
+    xAxis->setTicker(timeTicker);
+    // Else the picture would jump sideways whenever a label grows by a digit.
+    axisRect()->setMinimumMargins(QMargins(fontMetrics().averageCharWidth() * 10, 0,
+                                           fontMetrics().averageCharWidth() * 3, 0));
+}
+
+void PlotView::createPlaceholder()
+{
+    placeholder = new QLabel(this);
+    placeholder->setWordWrap(true);
+    placeholder->setAlignment(Qt::AlignCenter);
+    placeholder->setTextFormat(Qt::PlainText);
+    placeholder->setAttribute(Qt::WA_TransparentForMouseEvents);
+    placeholder->setForegroundRole(QPalette::Text);
+    placeholder->setBackgroundRole(QPalette::Base);
+    placeholder->setAutoFillBackground(true);
+    placeholder->setMargin(fontMetrics().averageCharWidth() * 2);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(placeholder);
+}
+
+void PlotView::rebuild()
+{
+    clearGraphs();
+    removeAxes();
+    axisOfSeries.clear();
+    for (const auto &one : series) {
+        ValueAxis &axis = axisFor(*one);
+        axisOfSeries.push_back(static_cast<size_t>(&axis - axes.data()));
+        QCPGraph *graph = addGraph(xAxis, axis.axis);
+        graph->setName(one->getUnit().isEmpty()
+                           ? one->getName()
+                           : tr("%1 [%2]").arg(one->getName(), one->getUnit()));
+        graph->setPen(one->getPen());
+        graph->setAdaptiveSampling(false); // the store knows better
+        graph->setLineStyle(one->isStepped() ? QCPGraph::lsStepLeft : QCPGraph::lsLine);
+    }
+    applyPalette();
+    requestRefresh();
+}
+
+void PlotView::removeAxes()
+{
+    for (const ValueAxis &axis : axes)
+        if (axis.axis != yAxis && axis.axis != yAxis2)
+            axisRect()->removeAxis(axis.axis);
+    axes.clear();
+    yAxis2->setVisible(false);
+}
+
+PlotView::ValueAxis &PlotView::axisFor(const PlotSeries &one)
+{
+    const QString unit = axisPerUnit ? one.getUnit() : QString();
+    for (ValueAxis &axis : axes)
+        if (axis.side == one.getSide() && axis.unit == unit)
+            return axis;
+    axes.push_back({takeAxis(one.getSide()), one.getSide(), unit, {}, false});
+    return axes.back();
+}
+
+/** The axis of the plot at that side, or a new one if it is in use. */
+QCPAxis *PlotView::takeAxis(PlotSeries::Side side)
+{
+    QCPAxis *first = side == PlotSeries::Side::Left ? yAxis : yAxis2;
+    const bool isTaken = std::any_of(axes.begin(), axes.end(),
+                                     [first](const ValueAxis &axis) { return axis.axis == first; });
+    QCPAxis *axis = isTaken ? axisRect()->addAxis(axisTypeOf(side)) : first;
+    axis->setVisible(true);
+    axis->setTickLabels(true);
+    return axis;
+}
+
+/** By unit, or by name where there is none; an axis of one series has its colour. */
+void PlotView::labelAxes()
+{
+    yAxis->setLabel({});
+    for (size_t i = 0; i < axes.size(); ++i) {
+        QStringList texts;
+        std::vector<const PlotSeries *> users;
+        for (size_t number = 0; number < series.size(); ++number) {
+            const PlotSeries &one = *series[number];
+            if (axisOfSeries[number] != i || one.getType() == nullptr)
+                continue;
+            users.push_back(&one);
+            texts += one.getUnit().isEmpty() ? one.getName() : one.getUnit();
+        }
+        texts.removeDuplicates();
+        const QString label = texts.join(QStringLiteral(", "));
+        axes[i].axis->setLabel(fontMetrics().elidedText(label, Qt::ElideLeft, height() * 2 / 3));
+        if (users.size() == 1)
+            axes[i].axis->setBasePen(users.front()->getPen());
+    }
+}
+
+void PlotView::applyPalette()
+{
+    setBackground(palette().brush(QPalette::Base));
+    for (QCPAxis *axis : axisRect()->axes())
+        styleAxis(axis);
+    labelAxes();
+    cursorLine->setPen(QPen(palette().color(QPalette::Highlight), 1));
+    legend->setBrush(palette().brush(QPalette::Base));
+    legend->setBorderPen(QPen(palette().color(QPalette::Mid)));
+    legend->setTextColor(palette().color(QPalette::Text));
+    legend->setFont(font());
+}
+
+void PlotView::styleAxis(QCPAxis *axis)
+{
+    const QColor text = palette().color(QPalette::Text);
+    QColor grid = text;
+    grid.setAlphaF(0.15F);
+    QColor axisColor = text;
+    axisColor.setAlphaF(0.5F);
+    axis->setBasePen(axisColor);
+    axis->setTickPen(axisColor);
+    axis->setSubTickPen(axisColor);
+    axis->setTickLabelColor(text);
+    axis->setLabelColor(text);
+    axis->setTickLabelFont(font());
+    axis->setLabelFont(font());
+    axis->grid()->setPen(QPen(grid, 1));
+    axis->grid()->setZeroLinePen(QPen(grid, 1));
+}
+
+void PlotView::requestRefresh()
+{
+    if (isVisible() && !frameTimer.isActive())
+        frameTimer.start();
+}
+
+void PlotView::setPaused(bool pause)
+{
+    paused = pause;
+    requestRefresh();
+}
+
+void PlotView::setAxisPerUnit(bool perUnit)
+{
+    axisPerUnit = perUnit;
+    rebuild();
+}
+
+void PlotView::refresh()
+{
+    if (const auto newest = getNewestUs(); newest && !paused)
+        window.follow(*newest);
+    xAxis->setRange(secondsOf(window.getFromUs()), secondsOf(window.getToUs()));
+    timeTicker->setDateTimeFormat(timeFormatFor(window.getSpanUs()));
+    timeTicker->setTickCount(std::max(1, axisRect()->width() / widthOfTime()));
+    if (pointerX)
+        cursorUs = timeAt(*pointerX);
+    for (ValueAxis &axis : axes)
+        axis.hasValues = false;
+    size_t points = 0;
+    for (size_t i = 0; i < series.size(); ++i) {
+        fillGraph(*series[i], graph(static_cast<int>(i)), axes[axisOfSeries[i]]);
+        points += line.size();
+    }
+    if (fitting)
+        fitAxes();
+    chooseDrawing(points);
+    placeCursor();
+    refreshPlaceholder();
+    replot(rpQueuedRefresh);
+    Q_EMIT refreshed();
+}
+
+/** Room for the text of a tick of the time axis and what keeps it apart from the next. */
+int PlotView::widthOfTime() const
+{
+    return fontMetrics().horizontalAdvance(QStringLiteral("00:00:00.000")) * 3 / 2;
+}
+
+void PlotView::fillGraph(const PlotSeries &one, QCPGraph *graph, ValueAxis &axis)
+{
+    line.clear();
+    const int pixels = std::max(1, qRound(axisRect()->width() * devicePixelRatioF()));
+    // Columns that begin at whole multiples of their width, or the line would flicker in motion.
+    const qint64 columnUs = std::max<qint64>(1, window.getSpanUs() / pixels);
+    const qint64 fromUs = window.getFromUs() / columnUs * columnUs - columnUs;
+    const auto columns = static_cast<int>(window.getSpanUs() / columnUs) + 3;
+    if (!one.isHidden())
+        one.getStore().decimate(fromUs, columnUs, columns, line);
+
+    QVector<QCPGraphData> data;
+    data.reserve(static_cast<qsizetype>(line.size()));
+    for (const Sample &sample : line) {
+        data.append({secondsOf(sample.timeUs), sample.value});
+        if (sample.isGap())
+            continue;
+        if (!std::exchange(axis.hasValues, true))
+            axis.shown = {sample.value, sample.value};
+        axis.shown.expand(sample.value);
+    }
+    graph->data()->set(data, true);
+}
+
+void PlotView::fitAxes()
+{
+    for (const ValueAxis &axis : axes)
+        if (axis.hasValues)
+            axis.axis->setRange(withMargin(axis.shown));
+}
+
+void PlotView::chooseDrawing(size_t points)
+{
+    const bool smooth = points <= maximumSmoothPoints;
+    setNotAntialiasedElements(smooth ? QCP::aeNone : QCP::aeAll);
+    for (size_t i = 0; i < series.size(); ++i) {
+        QPen pen = series[i]->getPen();
+        if (!smooth)
+            pen.setWidth(0);
+        graph(static_cast<int>(i))->setPen(pen);
+    }
+}
+
+void PlotView::placeCursor()
+{
+    cursorLine->setVisible(cursorUs.has_value());
+    if (!cursorUs)
+        return;
+    cursorLine->point1->setCoords(secondsOf(*cursorUs), 0);
+    cursorLine->point2->setCoords(secondsOf(*cursorUs), 1);
+}
+
+void PlotView::refreshPlaceholder()
+{
+    if (series.empty())
+        placeholder->setText(tr("Nothing is plotted yet. Type the path of a numeric field above, "
+                                "such as FORMAT.MESSAGE.FIELD, and press Enter; FIELD[2] is the "
+                                "third element of a repeated field."));
+    else
+        placeholder->setText(tr("No values yet. They appear as soon as messages with the chosen "
+                                "fields arrive."));
+    placeholder->setVisible(!getNewestUs());
+}
+
+std::optional<qint64> PlotView::getNewestUs() const
+{
+    std::optional<qint64> newest;
+    for (const auto &one : series)
+        if (const auto &samples = one->getStore().getSamples(); !samples.empty())
+            newest = std::max(newest.value_or(samples.back().timeUs), samples.back().timeUs);
+    return newest;
+}
+
+qint64 PlotView::timeAt(double x) const
+{
+    const double part = (x - axisRect()->left()) / std::max(1, axisRect()->width());
+    return window.getFromUs()
+           + qRound64(std::clamp(part, 0.0, 1.0) * static_cast<double>(window.getSpanUs()));
+}
+
+void PlotView::changeWindow(const std::function<void()> &change)
+{
+    const bool before = window.isFollowing();
+    change();
+    requestRefresh();
+    if (before != window.isFollowing())
+        Q_EMIT followingChanged(window.isFollowing());
+}
+
+void PlotView::setSpanUs(qint64 spanUs)
+{
+    changeWindow([&] { window.setSpanUs(spanUs); });
+}
+
+void PlotView::setFollowing(bool following)
+{
+    changeWindow([&] { window.setFollowing(following); });
+}
+
+void PlotView::panTime(double spans)
+{
+    changeWindow([&] { window.pan(spans); });
+}
+
+void PlotView::zoomTime(double factor)
+{
+    const qint64 middleUs = window.getToUs() - window.getSpanUs() / 2;
+    changeWindow([&] { window.zoom(factor, cursorUs.value_or(middleUs)); });
+}
+
+void PlotView::showAll()
+{
+    std::optional<qint64> firstUs;
+    for (const auto &one : series)
+        if (const auto &samples = one->getStore().getSamples(); !samples.empty())
+            firstUs = std::min(firstUs.value_or(samples.front().timeUs), samples.front().timeUs);
+    if (firstUs)
+        changeWindow([&] { window.show(*firstUs, *getNewestUs()); });
+}
+
+void PlotView::panValues(double ranges)
+{
+    fitting = false;
+    for (const ValueAxis &axis : axes)
+        axis.axis->moveRange(axis.axis->range().size() * ranges);
+    requestRefresh();
+}
+
+void PlotView::zoomValues(double factor)
+{
+    fitting = false;
+    for (const ValueAxis &axis : axes)
+        axis.axis->scaleRange(factor);
+    requestRefresh();
+}
+
+void PlotView::fitValues()
+{
+    fitting = true;
+    requestRefresh();
+}
+
+void PlotView::moveCursor(int pixels)
+{
+    pointerX.reset();
+    const qint64 fromUs = window.getFromUs();
+    const qint64 stepUs = window.getSpanUs() / std::max(1, axisRect()->width());
+    const qint64 middleUs = fromUs + window.getSpanUs() / 2;
+    cursorUs = std::clamp(cursorUs.value_or(middleUs) + pixels * stepUs, fromUs, window.getToUs());
+    requestRefresh();
+}
+
+void PlotView::removeCursor()
+{
+    pointerX.reset();
+    cursorUs.reset();
+    requestRefresh();
+}
+
+QString PlotView::getStateText() const
+{
+    const double seconds = secondsOf(window.getSpanUs());
+    QString text = window.isFollowing() ? tr("Following the newest value, %1 s").arg(seconds)
+                                        : tr("Standing still, %1 s").arg(seconds);
+    if (paused)
+        text = tr("Paused, values are kept; %1 s").arg(seconds);
+    if (!fitting)
+        text += tr("; value axes as set by hand");
+    if (cursorUs) {
+        const auto time = QDateTime::fromMSecsSinceEpoch(*cursorUs / 1000);
+        text += tr("; cursor at %1").arg(time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")));
+    }
+    return text;
+}
+
+void PlotView::withLegend(const std::function<void()> &draw)
+{
+    legend->setVisible(true);
+    draw();
+    legend->setVisible(false);
+    requestRefresh();
+}
+
+QImage PlotView::toImage()
+{
+    QImage image;
+    refresh();
+    withLegend([&] { image = toPixmap(width(), height(), imageScale).toImage(); });
+    return image;
+}
+
+QString PlotView::saveAs(const QString &fileName)
+{
+    const QString suffix = QFileInfo(fileName).suffix().toLower();
+    if (!QStringList{QStringLiteral("png"), QStringLiteral("svg"), QStringLiteral("csv")}.contains(
+            suffix))
+        return tr("The name of the file must end in .png, .svg or .csv.");
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || !writeTo(file, suffix) || !file.commit())
+        return tr("Cannot write \"%1\": %2").arg(fileName, file.errorString());
+    return {};
+}
+
+bool PlotView::writeTo(QIODevice &device, const QString &suffix)
+{
+    if (suffix == QStringLiteral("csv"))
+        return writePlotCsv(device, series, window.getFromUs(), window.getToUs());
+    if (suffix == QStringLiteral("png"))
+        return toImage().save(&device, "PNG");
+    refresh();
+    QSvgGenerator generator;
+    generator.setOutputDevice(&device);
+    generator.setSize(size());
+    generator.setViewBox(rect());
+    generator.setTitle(tr("Plot"));
+    QCPPainter painter;
+    if (!painter.begin(&generator))
+        return false;
+    painter.setMode(QCPPainter::pmVectorized);
+    withLegend([&] { toPainter(&painter, width(), height()); });
+    return painter.end();
+}
+
+void PlotView::changeEvent(QEvent *event)
+{
+    QCustomPlot::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange && event->type() != QEvent::FontChange)
+        return;
+    applyPalette();
+    requestRefresh();
+}
+
+void PlotView::showEvent(QShowEvent *event)
+{
+    QCustomPlot::showEvent(event);
+    requestRefresh();
+}
+
+void PlotView::resizeEvent(QResizeEvent *event)
+{
+    QCustomPlot::resizeEvent(event);
+    labelAxes();
+    requestRefresh();
+}
+
+void PlotView::leaveEvent(QEvent *event)
+{
+    // The cursor stays, so that its values can be read.
+    pointerX.reset();
+    QCustomPlot::leaveEvent(event);
+}
+
+void PlotView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        dragFrom = event->position();
+}
+
+void PlotView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPointF position = event->position();
+    pointerX = position.x();
+    if (dragFrom) {
+        const QPointF moved = position - *dragFrom;
+        dragFrom = position;
+        if (moved.x() != 0)
+            panTime(-moved.x() / std::max(1, axisRect()->width()));
+        if (event->modifiers().testFlag(Qt::ShiftModifier))
+            panValues(moved.y() / std::max(1, axisRect()->height()));
+    }
+    requestRefresh();
+}
+
+void PlotView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        dragFrom.reset();
+}
+
+void PlotView::wheelEvent(QWheelEvent *event)
+{
+    const double steps = event->angleDelta().y() / 120.0;
+    const double factor = std::pow(zoomStep, steps);
+    if (event->modifiers().testFlag(Qt::ControlModifier))
+        zoomValues(factor);
+    else
+        changeWindow([&] { window.zoom(factor, timeAt(event->position().x())); });
+    event->accept();
+}
+
+void PlotView::keyPressEvent(QKeyEvent *event)
+{
+    const bool control = event->modifiers().testFlag(Qt::ControlModifier);
+    const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
+    const auto zoom = [&](double factor) { control ? zoomValues(factor) : zoomTime(factor); };
+    const auto moveSideways = [&](int direction) {
+        if (shift)
+            moveCursor(control ? direction * 10 : direction);
+        else
+            panTime(direction * panStep);
+    };
+    switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        return zoom(zoomStep);
+    case Qt::Key_Minus:
+        return zoom(1 / zoomStep);
+    case Qt::Key_Left:
+        return moveSideways(-1);
+    case Qt::Key_Right:
+        return moveSideways(1);
+    case Qt::Key_Up:
+        return panValues(panStep);
+    case Qt::Key_Down:
+        return panValues(-panStep);
+    case Qt::Key_Home:
+        return showAll();
+    case Qt::Key_End:
+        return setFollowing(true);
+    case Qt::Key_V:
+        return fitValues();
+    case Qt::Key_Escape:
+        return removeCursor();
+    default:
+        QCustomPlot::keyPressEvent(event);
+    }
+}
+
+} // namespace corvane
