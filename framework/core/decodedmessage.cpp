@@ -25,4 +25,9 @@ QByteArrayView DecodedMessage::getBytes() const
     return {};
 }
 
+std::optional<quint32> DecodedMessage::getSequence() const
+{
+    return std::nullopt;
+}
+
 } // namespace corvane
