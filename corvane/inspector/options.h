@@ -1,6 +1,8 @@
 #pragma once
 
+#include "fieldtext.h"
 #include "mavlinkdecoder.h"
+#include "messageexport.h"
 #include "sourceaddress.h"
 
 #include <QString>
@@ -38,7 +40,11 @@ struct Options
     std::optional<double> speed
         = 1.0; ///< Times the recorded pace; nothing for as fast as possible.
     Report report = Report::None;
-    std::optional<double> durationSeconds;
+    std::optional<ExportFormat> exportFormat;
+    QStringList selectedPaths; ///< Of an export; everything if empty.
+    ValueNames valueNames = ValueNames::Symbolic; ///< Of an export.
+    QString outputFile; ///< Of an export; empty for standard output.
+    std::optional<double> durationSeconds; ///< Of a report or an export.
     QString screenshotFile;
     double screenshotAfterSeconds = 3.0;
     std::optional<SourceAddress> source;

@@ -3,6 +3,7 @@
 #include "bytesource.h"
 #include "decodedmessage.h"
 #include "descriptions.h"
+#include "mavlinkdecoder.h"
 #include "mavlinkmessage.h"
 #include "messageinfo.h"
 #include "overlayloader.h"
@@ -43,12 +44,24 @@ void Session::needAllTypes()
     need.setMessagesNeeded(types);
 }
 
-void Session::start(const Options &options)
+std::unique_ptr<Reception> Session::createReception(MessageNeedManager &needs) const
 {
+    return std::make_unique<Reception>(format.getInfo(), mavlinkSenderName, true, &needs);
+}
+
+std::unique_ptr<StreamDecoder> Session::createDecoder(Reception &receiver,
+                                                      const Options &source) const
+{
+    return std::make_unique<MavlinkDecoder>(format, receiver, source.framing);
+}
+
+void Session::start(const Options &newOptions)
+{
+    options = newOptions;
     if (!options.source)
         return;
     source = createSource(*options.source);
-    decoder = std::make_unique<MavlinkDecoder>(format, *reception, options.framing);
+    decoder = createDecoder(*reception, options);
     const bool atOnce = options.report != Options::Report::None || !options.speed;
     if (!atOnce)
         clock.setSpeed(*options.speed);

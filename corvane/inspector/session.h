@@ -1,6 +1,5 @@
 #pragma once
 
-#include "mavlinkdecoder.h"
 #include "mavlinkformat.h"
 #include "messageneed.h"
 #include "options.h"
@@ -11,9 +10,12 @@
 
 #include <memory>
 
+class MessageNeedManager;
+
 namespace corvane {
 
 class ByteSource;
+class StreamDecoder;
 class StreamPump;
 
 /** One source that is watched: its definitions, its bytes, and what was received from it. */
@@ -27,14 +29,22 @@ public:
 
     /** Loads definitions and overlays; what went wrong, one line for each error, or nothing. */
     QStringList load(const Options &options);
-    /** Opens the source of \a options, if there is one, and begins to read it. */
-    void start(const Options &options);
+    /** Opens the source of \a newOptions, if there is one, and begins to read it. */
+    void start(const Options &newOptions);
     /** Stops reading; what was received stays. */
     void stop();
 
     Reception &getReception() { return *reception; }
 
     const Reception &getReception() const { return *reception; }
+
+    /** What start() was called with. */
+    const Options &getOptions() const { return options; }
+
+    /** A reception for another reading of a source; \a needs says what is decoded in it. */
+    std::unique_ptr<Reception> createReception(MessageNeedManager &needs) const;
+    /** A frame reader that reports to \a receiver, framed as \a source says. */
+    std::unique_ptr<StreamDecoder> createDecoder(Reception &receiver, const Options &source) const;
 
     /** The source's name for people; empty without a source. */
     QString getSourceName() const;
@@ -50,12 +60,13 @@ Q_SIGNALS:
 private:
     void needAllTypes();
 
+    Options options;
     MavlinkFormat format;
     std::unique_ptr<Reception> reception;
     MessageNeed need{nullptr};
     ReplayClock clock;
     std::unique_ptr<ByteSource> source;
-    std::unique_ptr<MavlinkDecoder> decoder;
+    std::unique_ptr<StreamDecoder> decoder;
     std::unique_ptr<StreamPump> pump;
 };
 
