@@ -22,7 +22,10 @@ ExportWriter::ExportWriter(QObject *parent)
     connect(&flushTimer, &QTimer::timeout, this, &ExportWriter::flush);
 }
 
-ExportWriter::~ExportWriter() = default;
+ExportWriter::~ExportWriter()
+{
+    finish();
+}
 
 QString ExportWriter::open(const QString &path)
 {
@@ -38,12 +41,13 @@ void ExportWriter::follow(const MessageSource &source,
                           const ExportOrder &order)
 {
     messages.emplace(file, order.selection, senders, order.format, order.names);
-    connect(&source, &MessageSource::newMessage, this, &ExportWriter::write);
+    following = connect(&source, &MessageSource::newMessage, this, &ExportWriter::write);
     flushTimer.start();
 }
 
 QString ExportWriter::finish()
 {
+    disconnect(following);
     flushTimer.stop();
     const bool isWritten = !messages || messages->flush();
     const QString error = isWritten ? QString() : describeError();

@@ -30,6 +30,7 @@ class ExportWriter : public QObject
 
 public:
     explicit ExportWriter(QObject *parent = nullptr);
+    /** Writes what was collected. */
     ~ExportWriter() override;
 
     /** Creates the file, or empties it; what went wrong, or nothing. */
@@ -53,6 +54,7 @@ private:
 
     QFile file;
     std::optional<MessageExport> messages;
+    QMetaObject::Connection following;
     QTimer flushTimer;
     bool hasFailed = false;
 };

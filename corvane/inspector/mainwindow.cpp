@@ -1,5 +1,7 @@
 #include "mainwindow.h"
 
+#include "exportbar.h"
+#include "exportcontroller.h"
 #include "formpanel.h"
 #include "latestmessages.h"
 #include "messageinfo.h"
@@ -19,6 +21,7 @@
 #include <QSortFilterProxyModel>
 #include <QStatusBar>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 namespace corvane {
 
@@ -46,6 +49,7 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     , latest(new LatestMessages(session.getReception(), this))
     , types(new MessageTypeModel(*session.getReception().getStatistics(), this))
     , sortedTypes(new QSortFilterProxyModel(this))
+    , exports(new ExportController(session, this))
 {
     setDockNestingEnabled(true);
     createTypeView();
@@ -81,6 +85,8 @@ void MainWindow::createTypeView()
 void MainWindow::createMenus()
 {
     QMenu *fileMenu = menuBar()->addMenu(tr("&File"));
+    fileMenu->addActions(exports->getActions());
+    fileMenu->addSeparator();
     QAction *quit = fileMenu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence::Quit);
     viewMenu = menuBar()->addMenu(tr("&View"));
@@ -95,7 +101,12 @@ void MainWindow::createPanels()
 {
     tree = new MessageTreePanel(*latest, *session.getReception().getFormat());
     menuBar()->addMenu(tree->getMenu());
-    setCentralWidget(tree);
+    auto *centre = new QWidget(this);
+    auto *column = new QVBoxLayout(centre);
+    column->setContentsMargins({});
+    column->addWidget(exports->getBar());
+    column->addWidget(tree, 1);
+    setCentralWidget(centre);
     form = new FormPanel(*latest);
     addPanel(typeView, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
     watch = new WatchPanel(*latest);

@@ -15,6 +15,7 @@ class QTreeView;
 
 namespace corvane {
 
+class ExportController;
 class FormPanel;
 class LatestMessages;
 class MessageTreePanel;
@@ -59,6 +60,7 @@ private:
     LatestMessages *latest; ///< Owned as a child.
     MessageTypeModel *types; ///< Owned as a child.
     QSortFilterProxyModel *sortedTypes; ///< Owned as a child.
+    ExportController *exports; ///< Owned as a child.
     QTreeView *typeView = nullptr; ///< Owned as a child.
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.

@@ -1,3 +1,5 @@
+#include "exportbar.h"
+#include "exportcontroller.h"
 #include "fieldvaluelabel.h"
 #include "mainwindow.h"
 #include "messagewidget.h"
@@ -8,6 +10,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
+#include <QFileInfo>
 #include <QLabel>
 #include <QSettings>
 #include <QSignalSpy>
@@ -33,6 +36,7 @@ private Q_SLOTS:
     void darkPalette_isFollowed();
     void totals_nameDamage();
     void paused_viewsStandStillAndTheBarSaysWhatCame();
+    void exportedStatistics_areToldAboveTheViews();
     void layout_isRememberedByTheSettings();
     void layout_ofRandomBytes_startsWithTheDefault();
 };
@@ -207,6 +211,17 @@ void tst_mainwindow::paused_viewsStandStillAndTheBarSaysWhatCame()
     pause->trigger();
     QVERIFY(shown.form() != before);
     QVERIFY(!shown.says(QStringLiteral("Paused")));
+}
+
+void tst_mainwindow::exportedStatistics_areToldAboveTheViews()
+{
+    const Shown shown;
+    QVERIFY(shown.action(QStringLiteral("&Export Messages...")) != nullptr);
+    const QString file = shown.folder.filePath(QStringLiteral("statistics.csv"));
+    shown.window->findChild<ExportController *>()->exportStatistics(file);
+    QVERIFY(shown.says(QStringLiteral("Exported to \"%1\".").arg(file)));
+    QVERIFY(shown.window->findChild<ExportBar *>()->isVisible());
+    QVERIFY(QFileInfo(file).size() > 0);
 }
 
 void tst_mainwindow::layout_isRememberedByTheSettings()
