@@ -1,3 +1,4 @@
+#include "exportcommand.h"
 #include "options.h"
 #include "report.h"
 #include "session.h"
@@ -142,6 +143,11 @@ int main(int argc, char *argv[])
     if (options.report != Options::Report::None) {
         const QCoreApplication application(argc, argv);
         return runReport(options);
+    }
+    if (options.exportFormat) {
+        const QCoreApplication application(argc, argv);
+        const QString error = corvane::runExport(options);
+        return error.isEmpty() ? 0 : complain(error);
     }
     chooseOffscreenPlatform(options);
     const QApplication application(argc, argv);

@@ -2,6 +2,8 @@
 
 #include "abstractplotpanel.h"
 #include "eventlogpanel.h"
+#include "exportbar.h"
+#include "exportcontroller.h"
 #include "formpanel.h"
 #include "hostfeed.h"
 #include "latestmessages.h"
@@ -27,6 +29,7 @@
 #include <QSortFilterProxyModel>
 #include <QStatusBar>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 namespace corvane {
 
@@ -54,6 +57,7 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     , latest(new LatestMessages(session.getReception(), this))
     , types(new MessageTypeModel(*session.getReception().getStatistics(), this))
     , sortedTypes(new QSortFilterProxyModel(this))
+    , exports(new ExportController(session, this))
 {
     setDockNestingEnabled(true);
     setAcceptDrops(true);
@@ -93,6 +97,7 @@ void MainWindow::createMenus()
     QAction *open = fileMenu->addAction(tr("&Open…"), this, &MainWindow::openRequested);
     open->setShortcut(QKeySequence::Open);
     open->setToolTip(tr("Choose another source, or other definitions"));
+    fileMenu->addActions(exports->getActions());
     fileMenu->addSeparator();
     QAction *quit = fileMenu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence::Quit);
@@ -108,7 +113,12 @@ void MainWindow::createPanels()
 {
     tree = new MessageTreePanel(*latest, *session.getReception().getFormat());
     menuBar()->addMenu(tree->getMenu());
-    setCentralWidget(tree);
+    auto *centre = new QWidget(this);
+    auto *column = new QVBoxLayout(centre);
+    column->setContentsMargins({});
+    column->addWidget(exports->getBar());
+    column->addWidget(tree, 1);
+    setCentralWidget(centre);
     form = new FormPanel(*latest);
     addPanel(typeView, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
     watch = new WatchPanel(*latest);

@@ -17,6 +17,7 @@ namespace corvane {
 
 class AbstractPlotPanel;
 class EventLogPanel;
+class ExportController;
 class FormPanel;
 class LatestMessages;
 class MessageTreePanel;
@@ -72,6 +73,7 @@ private:
     LatestMessages *latest; ///< Owned as a child.
     MessageTypeModel *types; ///< Owned as a child.
     QSortFilterProxyModel *sortedTypes; ///< Owned as a child.
+    ExportController *exports; ///< Owned as a child.
     QTreeView *typeView = nullptr; ///< Owned as a child.
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.

@@ -32,8 +32,16 @@ constexpr std::array optionTexts{
                "Play recordings N times as fast as recorded, or as fast as possible."},
     OptionText{"report", "text|json",
                "Read the source to its end without a window and print what arrived."},
-    OptionText{"duration", "SECONDS", "With --report: stop after this time."},
     OptionText{"restart", nullptr, "Start a program (exec:) again when it has ended."},
+    OptionText{"export", "csv|jsonl",
+               "Read the source to its end without a window and write its messages."},
+    OptionText{"select", "PATH",
+               "With --export: only these messages or fields, FORMAT.MESSAGE.FIELD. May be "
+               "repeated."},
+    OptionText{"output", "FILE",
+               "With --export: where to write, also -o FILE; standard output by default."},
+    OptionText{"raw", nullptr, "With --export: numbers in place of symbolic names."},
+    OptionText{"duration", "SECONDS", "With --report and --export: stop after this time."},
     OptionText{"screenshot", "FILE", "Write the window as a PNG file and exit."},
     OptionText{"after", "SECONDS", "With --screenshot: when to write it; 3 by default."},
     OptionText{"help", nullptr, "Print this help."},
@@ -47,7 +55,10 @@ void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(tr("Shows the decoded messages of a binary stream, live."));
     for (const OptionText &option : optionTexts) {
-        QCommandLineOption described(QLatin1String(option.name), tr(option.description));
+        QStringList names{QLatin1String(option.name)};
+        if (names.constFirst() == QLatin1String("output"))
+            names.prepend(QStringLiteral("o"));
+        QCommandLineOption described(names, tr(option.description));
         if (option.valueName != nullptr)
             described.setValueName(QLatin1String(option.valueName));
         parser.addOption(described);
@@ -77,6 +88,7 @@ public:
         options.screenshotFile = parser.value(QStringLiteral("screenshot"));
         readFraming();
         readReport();
+        readExport();
         readSpeed();
         options.durationSeconds = readSeconds("duration");
         options.screenshotAfterSeconds = readSeconds("after").value_or(3.0);
@@ -119,6 +131,25 @@ private:
             options.report = Options::Report::Json;
         else
             complainOfValue("report", tr("text or json"));
+    }
+
+    void readExport()
+    {
+        options.selectedPaths = parser.values(QStringLiteral("select"));
+        options.outputFile = parser.value(QStringLiteral("output"));
+        if (options.outputFile == QLatin1String("-"))
+            options.outputFile.clear();
+        if (parser.isSet(QStringLiteral("raw")))
+            options.valueNames = ValueNames::Raw;
+        if (!parser.isSet(QStringLiteral("export")))
+            return;
+        const QString text = parser.value(QStringLiteral("export"));
+        if (text == QLatin1String("csv"))
+            options.exportFormat = ExportFormat::Csv;
+        else if (text == QLatin1String("jsonl"))
+            options.exportFormat = ExportFormat::JsonLines;
+        else
+            complainOfValue("export", tr("csv or jsonl"));
     }
 
     void readSpeed()
@@ -177,10 +208,26 @@ private:
             = options.source && options.source->kind == SourceAddress::Kind::Program;
         if (options.restartsProgram && (!isProgram || reports))
             complain(tr("--restart goes with a source exec:COMMAND that is shown in the window."));
-        if (options.durationSeconds && !reports)
-            complain(tr("--duration goes with --report."));
+        checkExport();
+        if (options.durationSeconds && !reports && !options.exportFormat)
+            complain(tr("--duration goes with --report and --export."));
         if (parser.isSet(QStringLiteral("after")) && !photographs)
             complain(tr("--after goes with --screenshot."));
+    }
+
+    void checkExport()
+    {
+        for (const char *name : {"select", "output", "raw"})
+            if (parser.isSet(QLatin1String(name)) && !options.exportFormat)
+                complain(tr("--%1 goes with --export.").arg(QLatin1String(name)));
+        if (!options.exportFormat)
+            return;
+        if (options.report != Options::Report::None)
+            complain(tr("--report and --export cannot go together."));
+        if (!options.screenshotFile.isEmpty())
+            complain(tr("--export opens no window, so --screenshot cannot go with it."));
+        if (!options.source)
+            complain(tr("--export needs a SOURCE to read; see --help."));
     }
 
     const QCommandLineParser &parser;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fieldtext.h"
+#include "messageexport.h"
 #include "sourceaddress.h"
 
 #include <QString>
@@ -30,7 +32,7 @@ struct Options
     static QString getHelpText();
 
     /** Whether the source is watched in a window, rather than read through once. */
-    bool opensWindow() const { return report == Report::None; }
+    bool opensWindow() const { return report == Report::None && !exportFormat; }
 
     Wish wish = Wish::Run;
     QString error;
@@ -41,8 +43,12 @@ struct Options
     std::optional<double> speed
         = 1.0; ///< Times the recorded pace; nothing for as fast as possible.
     Report report = Report::None;
-    std::optional<double> durationSeconds;
     bool restartsProgram = false; ///< When a source that is a program has ended.
+    std::optional<ExportFormat> exportFormat;
+    QStringList selectedPaths; ///< Of an export; everything if empty.
+    ValueNames valueNames = ValueNames::Symbolic; ///< Of an export.
+    QString outputFile; ///< Of an export; empty for standard output.
+    std::optional<double> durationSeconds; ///< Of a report or an export.
     QString screenshotFile;
     double screenshotAfterSeconds = 3.0;
     std::optional<SourceAddress> source;

@@ -67,12 +67,24 @@ void Session::needAllTypes()
     need.setMessagesNeeded(types);
 }
 
-void Session::start(const Options &options)
+std::unique_ptr<Reception> Session::createReception(MessageNeedManager &needs) const
 {
+    return std::make_unique<Reception>(*format, &needs);
+}
+
+std::unique_ptr<StreamDecoder> Session::createDecoder(Reception &receiver,
+                                                      const Options &source) const
+{
+    return format->makeDecoder(receiver, source.framing);
+}
+
+void Session::start(const Options &newOptions)
+{
+    options = newOptions;
     if (!options.source)
         return;
     source = createSource(*options.source);
-    decoder = format->makeDecoder(*reception, options.framing);
+    decoder = createDecoder(*reception, options);
     const bool atOnce = !options.opensWindow() || !options.speed;
     if (!atOnce)
         clock.setSpeed(*options.speed);

@@ -10,6 +10,8 @@
 
 #include <memory>
 
+class MessageNeedManager;
+
 namespace corvane {
 
 class ByteSource;
@@ -29,8 +31,8 @@ public:
 
     /** Loads definitions and overlays; what went wrong, one line for each error, or nothing. */
     QStringList load(const Options &options);
-    /** Opens the source of \a options, if there is one, and begins to read it. */
-    void start(const Options &options);
+    /** Opens the source of \a newOptions, if there is one, and begins to read it. */
+    void start(const Options &newOptions);
     /** Stops reading; what was received stays. */
     void stop();
 
@@ -45,6 +47,14 @@ public:
     Reception &getReception() { return *reception; }
 
     const Reception &getReception() const { return *reception; }
+
+    /** What start() was called with. */
+    const Options &getOptions() const { return options; }
+
+    /** A reception for another reading of a source; \a needs says what is decoded in it. */
+    std::unique_ptr<Reception> createReception(MessageNeedManager &needs) const;
+    /** A frame reader that reports to \a receiver, framed as \a source says. */
+    std::unique_ptr<StreamDecoder> createDecoder(Reception &receiver, const Options &source) const;
 
     /** The source's name for people; empty without a source. */
     QString getSourceName() const;
@@ -68,6 +78,7 @@ private:
     void addEvent(CorvaneEvent::Type type, const QString &text);
 
     std::unique_ptr<StreamFormat> format;
+    Options options;
     std::unique_ptr<Reception> reception;
     MessageNeed need{nullptr};
     ReplayClock clock;

@@ -49,4 +49,9 @@ std::optional<qint64> readOwnTimeUs(const Message *message)
     return std::llround(us);
 }
 
+std::optional<quint32> DecodedMessage::getSequence() const
+{
+    return std::nullopt;
+}
+
 } // namespace corvane

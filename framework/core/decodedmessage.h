@@ -27,6 +27,8 @@ public:
 
     /** The bytes that the message came as; empty for messages that did not come as bytes. */
     virtual QByteArrayView getBytes() const;
+    /** The number that the sender gave the message; nothing in formats that do not count. */
+    virtual std::optional<quint32> getSequence() const;
 
 protected:
     DecodedMessage(const MessageInfo *info, qint64 timeUs, quint32 senderId);

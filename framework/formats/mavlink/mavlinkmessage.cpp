@@ -29,6 +29,11 @@ MavlinkMessage::MavlinkMessage(const MessageInfo *info,
     std::memcpy(const_cast<char *>(firstByte()), bytes.data(), frameSize);
 }
 
+std::optional<quint32> MavlinkMessage::getSequence() const
+{
+    return static_cast<quint8>(firstByte()[isVersion1() ? 2 : 4]);
+}
+
 QString mavlinkSenderName(quint32 senderId)
 {
     return QStringLiteral("%1/%2").arg(senderId >> 8).arg(senderId & 0xFF);

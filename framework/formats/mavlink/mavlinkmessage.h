@@ -19,6 +19,8 @@ public:
 
     QByteArrayView getBytes() const override { return {firstByte(), frameSize}; }
 
+    std::optional<quint32> getSequence() const override;
+
     /** The payload as it was sent; version 2 cuts zeros off its end. */
     QByteArrayView getPayload() const { return {firstByte() + headerSize, payloadSize}; }
 

@@ -1,4 +1,6 @@
 #include "abstractplotpanel.h"
+#include "exportbar.h"
+#include "exportcontroller.h"
 #include "fieldvaluelabel.h"
 #include "mainwindow.h"
 #include "messagewidget.h"
@@ -9,6 +11,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
+#include <QFileInfo>
 #include <QLabel>
 #include <QSettings>
 #include <QSignalSpy>
@@ -36,6 +39,7 @@ private Q_SLOTS:
     void paused_viewsStandStillAndTheBarSaysWhatCame();
     void plot_isAPanelOrSaysThatItIsMissing();
     void plot_isPausedAndRemembered();
+    void exportedStatistics_areToldAboveTheViews();
     void layout_isRememberedByTheSettings();
     void layout_ofRandomBytes_startsWithTheDefault();
 };
@@ -233,6 +237,17 @@ void tst_mainwindow::plot_isPausedAndRemembered()
     shown.window->close();
     QCOMPARE(shown.settings.value(QStringLiteral("plot/paths")).toStringList(),
              QStringList(QStringLiteral("MAVLink.MOTION.heading")));
+}
+
+void tst_mainwindow::exportedStatistics_areToldAboveTheViews()
+{
+    const Shown shown;
+    QVERIFY(shown.action(QStringLiteral("&Export Messages...")) != nullptr);
+    const QString file = shown.folder.filePath(QStringLiteral("statistics.csv"));
+    shown.window->findChild<ExportController *>()->exportStatistics(file);
+    QVERIFY(shown.says(QStringLiteral("Exported to \"%1\".").arg(file)));
+    QVERIFY(shown.window->findChild<ExportBar *>()->isVisible());
+    QVERIFY(QFileInfo(file).size() > 0);
 }
 
 void tst_mainwindow::layout_isRememberedByTheSettings()

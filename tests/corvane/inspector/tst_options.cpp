@@ -10,6 +10,7 @@ class tst_options : public corvane::test::TestCase
 private Q_SLOTS:
     void parse_noArguments_runsWithoutSource();
     void parse_everyOption_isTaken();
+    void parse_export_isTaken();
     void parse_repeatedFiles_areKeptInOrder();
     void parse_speed_data();
     void parse_speed();
@@ -62,6 +63,24 @@ void tst_options::parse_everyOption_isTaken()
     QCOMPARE(picture.screenshotFile, QStringLiteral("w.png"));
     QCOMPARE(picture.screenshotAfterSeconds, 7.0);
     QCOMPARE(picture.source->kind, corvane::SourceAddress::Kind::StandardInput);
+}
+
+void tst_options::parse_export_isTaken()
+{
+    const Options options
+        = parse(QStringLiteral("--definitions a --export csv --select A.b --select *.c.d? "
+                               "-o out.csv --raw --duration 2 source"));
+    QCOMPARE(options.error, QString());
+    QCOMPARE(options.exportFormat, std::optional(corvane::ExportFormat::Csv));
+    QCOMPARE(options.selectedPaths, (QStringList{"A.b", "*.c.d?"}));
+    QCOMPARE(options.outputFile, QStringLiteral("out.csv"));
+    QCOMPARE(options.valueNames, corvane::ValueNames::Raw);
+    QCOMPARE(options.durationSeconds, std::optional(2.0));
+
+    const Options piped = parse(QStringLiteral("--definitions a --export jsonl --output - b"));
+    QCOMPARE(piped.exportFormat, std::optional(corvane::ExportFormat::JsonLines));
+    QCOMPARE(piped.outputFile, QString());
+    QCOMPARE(piped.valueNames, corvane::ValueNames::Symbolic);
 }
 
 void tst_options::parse_repeatedFiles_areKeptInOrder()
@@ -121,7 +140,7 @@ void tst_options::parse_mistake_isExplained_data()
     QTest::newRow("duration text") << "--definitions a --report text --duration long b"
                                    << "seconds";
     QTest::newRow("duration alone") << "--duration 3"
-                                    << "--duration goes with --report";
+                                    << "--duration goes with --report and --export";
     QTest::newRow("restart of no program") << "--definitions a --restart udp://:1"
                                            << "--restart goes with a source exec:COMMAND";
     QTest::newRow("restart without window") << "--definitions a --restart --report text exec:b"
@@ -132,6 +151,20 @@ void tst_options::parse_mistake_isExplained_data()
                                  << "--after goes with --screenshot";
     QTest::newRow("report and picture") << "--definitions a --report text --screenshot p b"
                                         << "opens no window";
+    QTest::newRow("export form") << "--definitions a --export xml b"
+                                 << "csv or jsonl";
+    QTest::newRow("export source") << "--definitions a --export csv"
+                                   << "needs a SOURCE";
+    QTest::newRow("export and report") << "--definitions a --export csv --report text b"
+                                       << "cannot go together";
+    QTest::newRow("export and picture") << "--definitions a --export csv --screenshot p b"
+                                        << "opens no window";
+    QTest::newRow("select alone") << "--select a.b"
+                                  << "--select goes with --export";
+    QTest::newRow("output alone") << "-o file"
+                                  << "--output goes with --export";
+    QTest::newRow("raw alone") << "--raw"
+                               << "--raw goes with --export";
 }
 
 void tst_options::parse_mistake_isExplained()
@@ -152,9 +185,10 @@ void tst_options::parse_helpAndVersion_winOverMistakes()
 void tst_options::getHelpText_namesEveryOption()
 {
     const QString help = Options::getHelpText();
-    for (const char *name : {"--definitions", "--overlay", "--framing", "--speed", "--report",
-                             "--duration", "--screenshot", "--after", "--help", "--version",
-                             "SOURCE", "tcp-listen://", "exec:COMMAND"})
+    for (const char *name :
+         {"--definitions", "--overlay", "--framing", "--speed", "--report", "--duration",
+          "--export", "--select", "--output", "--raw", "--screenshot", "--after", "--help",
+          "--version", "SOURCE", "tcp-listen://", "exec:COMMAND"})
         QVERIFY2(help.contains(QLatin1String(name)), name);
 }
 
