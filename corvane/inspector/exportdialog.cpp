@@ -143,7 +143,9 @@ void ExportDialog::createLayout(const QString &hint)
     auto *fields = new QFormLayout;
     fields->addRow(tr("F&orm:"), form);
     fields->addRow(QString(), symbolic);
-    fields->addRow(tr("&File:"), createFileRow());
+    auto *fileLabel = new QLabel(tr("&File:"), this);
+    fileLabel->setBuddy(file);
+    fields->addRow(fileLabel, createFileRow());
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     exportButton = buttons->addButton(tr("&Export"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

@@ -46,7 +46,10 @@ std::optional<double> ExportJob::getFraction() const
 
 void ExportJob::beginReading(const QList<const MessageInfo *> &types)
 {
-    reading.reset(new SourceReading(session, options, types));
+    // The first of two readings is just telling its end.
+    if (reading)
+        reading.release()->deleteLater();
+    reading = std::make_unique<SourceReading>(session, options, types);
     connect(reading.get(), &SourceReading::opened, this, &ExportJob::handleOpened);
     connect(reading.get(), &SourceReading::finished, this, &ExportJob::handleFinished);
     connect(reading.get(), &SourceReading::failed, this, &ExportJob::complete);

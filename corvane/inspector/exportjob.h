@@ -4,7 +4,6 @@
 #include "options.h"
 
 #include <QObject>
-#include <QScopedPointer>
 
 #include <memory>
 #include <optional>
@@ -14,12 +13,7 @@ namespace corvane {
 class Session;
 class SourceReading;
 
-/**
- * Reads a source from its start and exports its messages, every one.
- *
- * Where all types go into one CSV file and the source is a regular file, that is read twice: first
- * to find out which types occur, so that there are columns for these alone.
- */
+/** Reads a source from its start and exports its messages, every selected one. */
 class ExportJob : public QObject
 {
     Q_OBJECT
@@ -32,7 +26,11 @@ public:
               QObject *parent = nullptr);
     ~ExportJob() override;
 
-    /** Whether only columns of types that occur are wanted; initially not. Before start(). */
+    /**
+     * Whether a CSV file shall have columns only for types that occur; initially not. A regular
+     * file is then read twice, to find them out first; other sources cannot be. To be called before
+     * start().
+     */
     void setOccurringTypesOnly(bool only) { occurringTypesOnly = only; }
 
     /** From now on finished() or failed() will be emitted, unless stop() is called. */
@@ -66,7 +64,7 @@ private:
     Options options;
     ExportOrder order;
     ExportWriter writer;
-    std::unique_ptr<SourceReading, QScopedPointerDeleteLater> reading;
+    std::unique_ptr<SourceReading> reading;
     bool occurringTypesOnly = false;
     bool counting = false; ///< This is the first of two readings.
     bool fileIsOpen = false;

@@ -3,7 +3,8 @@
 #include "message.h"
 #include "messagesource.h"
 
-#include <cstdio>
+#include <unistd.h>
+
 #include <utility>
 
 namespace corvane {
@@ -32,7 +33,7 @@ QString ExportWriter::open(const QString &path)
     // Lines are collected already, and an error should be told when it happens.
     constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     file.setFileName(path);
-    const bool isOpen = path.isEmpty() ? file.open(stdout, mode) : file.open(mode);
+    const bool isOpen = path.isEmpty() ? file.open(STDOUT_FILENO, mode) : file.open(mode);
     return isOpen ? QString() : tr("cannot write \"%1\": %2").arg(path, file.errorString());
 }
 

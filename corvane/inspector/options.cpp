@@ -20,6 +20,7 @@ struct OptionText
     const char *name;
     const char *valueName; ///< Null for an option without a value.
     const char *description;
+    const char *shortName = nullptr; ///< Null for an option without one.
 };
 
 constexpr std::array optionTexts{
@@ -38,8 +39,7 @@ constexpr std::array optionTexts{
     OptionText{"select", "PATH",
                "With --export: only these messages or fields, FORMAT.MESSAGE.FIELD. May be "
                "repeated."},
-    OptionText{"output", "FILE",
-               "With --export: where to write, also -o FILE; standard output by default."},
+    OptionText{"output", "FILE", "With --export: where to write; standard output by default.", "o"},
     OptionText{"raw", nullptr, "With --export: numbers in place of symbolic names."},
     OptionText{"duration", "SECONDS", "With --report and --export: stop after this time."},
     OptionText{"screenshot", "FILE", "Write the window as a PNG file and exit."},
@@ -56,8 +56,8 @@ void describe(QCommandLineParser &parser)
     parser.setApplicationDescription(tr("Shows the decoded messages of a binary stream, live."));
     for (const OptionText &option : optionTexts) {
         QStringList names{QLatin1String(option.name)};
-        if (names.constFirst() == QLatin1String("output"))
-            names.prepend(QStringLiteral("o"));
+        if (option.shortName != nullptr)
+            names.prepend(QLatin1String(option.shortName));
         QCommandLineOption described(names, tr(option.description));
         if (option.valueName != nullptr)
             described.setValueName(QLatin1String(option.valueName));

@@ -364,6 +364,16 @@ void tst_exportcommand::fullDisk_isTold()
         QCOMPARE(small.exitCode, 1);
         QVERIFY(small.errors.contains("No space left"));
     }
+    QProcess process;
+    process.start(QStringLiteral("sh"),
+                  {QStringLiteral("-c"),
+                   QStringLiteral("'%1' --definitions '%2' --export csv --select MAVLink.TEXT '%3' "
+                                  "> /dev/full")
+                       .arg(QStringLiteral(CORVANE_INSPECTOR), example(QStringLiteral("rover.xml")),
+                            recording())});
+    QVERIFY(process.waitForFinished(20'000));
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(process.readAllStandardError().contains("cannot write to standard output: No space"));
 }
 
 void tst_exportcommand::missingSource_leavesTheFileAlone()
