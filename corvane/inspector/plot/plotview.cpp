@@ -2,6 +2,7 @@
 
 #include "plotcsv.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
@@ -65,7 +66,7 @@ PlotView::PlotView(const PlotSeriesList &series, QWidget *parent)
     setMouseTracking(true);
     setMinimumSize(fontMetrics().averageCharWidth() * 20, fontMetrics().height() * 4);
     setAccessibleName(tr("Plot"));
-    setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
+    setPlottingHints(QCP::phCacheLabels);
     createTimeAxis();
     createPlaceholder();
     cursorLine->setVisible(false);
@@ -223,6 +224,8 @@ void PlotView::setAxisPerUnit(bool perUnit)
 
 void PlotView::refresh()
 {
+    QElapsedTimer clock;
+    clock.start();
     if (const auto newest = getNewestUs(); newest && !paused)
         window.follow(*newest);
     xAxis->setRange(secondsOf(window.getFromUs()), secondsOf(window.getToUs()));
@@ -243,6 +246,7 @@ void PlotView::refresh()
     placeCursor();
     refreshPlaceholder();
     replot(rpQueuedRefresh);
+    frameTimer.setInterval(std::max(frameMs, static_cast<int>(2 * clock.elapsed())));
     Q_EMIT refreshed();
 }
 

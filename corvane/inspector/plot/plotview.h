@@ -15,10 +15,11 @@ namespace corvane {
 /**
  * The picture of some series over time.
  *
- * It is drawn at most once per frame, and only what it shows of each series, in as many columns as
- * it has pixels. The time follows the newest value until people pan; the value axes fit what is
- * shown until people pan or zoom them. Mouse: drag pans the time (with Shift, the values too), the
- * wheel zooms the time (with Ctrl, the values), the pointer is the cursor. Keys: see the README.
+ * It is drawn at most once per frame, and less often where drawing would take more than a third of
+ * the time; and only what it shows of each series, in as many columns as it has pixels. The time
+ * follows the newest value until people pan; the value axes fit what is shown until people pan or
+ * zoom them. Mouse: drag pans the time (with Shift, the values too), the wheel zooms the time (with
+ * Ctrl, the values), the pointer is the cursor. Keys: see the README.
  */
 class PlotView : public QCustomPlot
 {
@@ -35,6 +36,8 @@ public:
     void rebuild();
     /** Draws anew with the next frame. */
     void requestRefresh();
+    /** Draws at once. */
+    void refresh();
     /** While paused the window does not follow, and is told to draw only by people. */
     void setPaused(bool pause);
     /** Gives each unit a value axis of its own; else there is one on each side. */
@@ -105,7 +108,6 @@ private:
     void labelAxes();
     void applyPalette();
     void styleAxis(QCPAxis *axis);
-    void refresh();
     int widthOfTime() const;
     void fillGraph(const PlotSeries &one, QCPGraph *graph, ValueAxis &axis);
     void fitAxes();

@@ -50,10 +50,17 @@ void SampleStore::push(const Sample &sample)
 {
     if (sample.isGap() && !samples.empty() && samples.back().isGap())
         return;
-    if (samples.size() % blockSize == 0)
-        blocks.emplace_back();
-    blocks.back().add(sample.value);
     samples.push_back(sample);
+    addToBlocks(samples.size() - 1);
+}
+
+/** To be called for each sample in turn. */
+void SampleStore::addToBlocks(size_t index)
+{
+    if (index % blockSize == 0)
+        blocks.emplace_back();
+    blocks.back().extremes.add(samples[index].value);
+    blocks.back().lastUs = samples[index].timeUs;
 }
 
 void SampleStore::insertLate(const Sample &sample)
@@ -115,11 +122,8 @@ void SampleStore::rebuildBlocks(size_t firstSample)
 {
     size_t i = std::min(firstSample, samples.size()) / blockSize * blockSize;
     blocks.resize(i / blockSize);
-    for (; i < samples.size(); ++i) {
-        if (i % blockSize == 0)
-            blocks.emplace_back();
-        blocks.back().add(samples[i].value);
-    }
+    for (; i < samples.size(); ++i)
+        addToBlocks(i);
 }
 
 size_t SampleStore::indexOf(qint64 timeUs) const
@@ -157,19 +161,19 @@ void SampleStore::decimate(qint64 fromUs,
 /** Returns the first sample from \a first on that is not before \a endUs. */
 size_t SampleStore::scan(size_t first, qint64 endUs, Extremes &extremes) const
 {
-    size_t i = first;
-    while (i < samples.size() && samples[i].timeUs < endUs) {
-        const bool wholeBlock = i % blockSize == 0 && i + blockSize <= samples.size()
-                                && samples[i + blockSize - 1].timeUs < endUs;
-        if (wholeBlock) {
-            extremes.add(blocks[i / blockSize]);
-            i += blockSize;
-        } else {
+    const auto scanSamples = [&](size_t i, size_t end) {
+        for (; i < end && samples[i].timeUs < endUs; ++i)
             extremes.add(samples[i].value);
-            ++i;
-        }
-    }
-    return i;
+        return i;
+    };
+    const size_t firstBlockEnd = std::min((first / blockSize + 1) * blockSize, samples.size());
+    size_t i = scanSamples(first, firstBlockEnd);
+    if (i < firstBlockEnd)
+        return i;
+    size_t block = first / blockSize + 1;
+    for (; block < blocks.size() && blocks[block].lastUs < endUs; ++block)
+        extremes.add(blocks[block].extremes);
+    return scanSamples(std::min(block * blockSize, samples.size()), samples.size());
 }
 
 void SampleStore::addColumn(size_t first,

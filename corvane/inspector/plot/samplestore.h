@@ -25,8 +25,8 @@ struct Sample
  *
  * When the store is full, its older half is thinned: of each group of six samples only the smallest
  * and the largest stay, and a gap where there was one. So the whole time stays to be seen, with all
- * its peaks, coarser the longer ago it is. A sample costs 16 bytes, plus a quarter of a byte for
- * the extremes by block that make decimate() fast.
+ * its peaks, coarser the longer ago it is. A sample costs 16 bytes, and less than one more for the
+ * extremes by block that make decimate() fast.
  */
 class SampleStore
 {
@@ -66,7 +66,7 @@ public:
     void decimate(qint64 fromUs, qint64 columnUs, int columns, std::vector<Sample> &line) const;
 
 private:
-    static constexpr size_t blockSize = 64;
+    static constexpr size_t blockSize = 32;
 
     struct Extremes
     {
@@ -77,6 +77,14 @@ private:
         double largest = -std::numeric_limits<double>::infinity();
     };
 
+    /** What is known of blockSize samples without looking at them. */
+    struct Block
+    {
+        Extremes extremes;
+        qint64 lastUs = 0;
+    };
+
+    void addToBlocks(size_t index);
     void push(const Sample &sample);
     void insertLate(const Sample &sample);
     void thinOlderHalf();
@@ -87,7 +95,7 @@ private:
 
     size_t capacity;
     std::vector<Sample> samples; ///< In the order of time.
-    std::vector<Extremes> blocks; ///< Of each blockSize samples; the last may be of fewer.
+    std::vector<Block> blocks; ///< Of each blockSize samples; the last may be of fewer.
 };
 
 } // namespace corvane
