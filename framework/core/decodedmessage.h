@@ -28,7 +28,10 @@ public:
     virtual QByteArrayView getBytes() const;
 
 protected:
-    DecodedMessage(const MessageInfo *info, qint64 timeUs, quint32 senderId);
+    DecodedMessage(const MessageInfo *info,
+                   qint64 timeUs,
+                   quint32 senderId,
+                   bool confidential = false);
     /** A sub-message, which shares time, sender and confidentiality with \a mainMessage. */
     DecodedMessage(const MessageInfo *info, const DecodedMessage *mainMessage, bool confidential);
 

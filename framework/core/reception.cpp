@@ -87,6 +87,14 @@ void Reception::skipBytes(quint64 position, quint64 count, qint64 timeUs)
              tr("%1 bytes from offset %2 belong to no frame.").arg(count).arg(position), timeUs);
 }
 
+void Reception::skipBytes(quint64 position, quint64 count, const QString &reason, qint64 timeUs)
+{
+    countSkippedBytes(count);
+    addEvent(CorvaneEvent::LostBytes,
+             tr("%1 bytes from offset %2 are lost: %3.").arg(count).arg(position).arg(reason),
+             timeUs);
+}
+
 void Reception::addEvent(CorvaneEvent::Type type, const QString &text, qint64 timeUs)
 {
     increment(statistics.getData()->eventCounts.at(static_cast<size_t>(type)));
