@@ -48,9 +48,13 @@ Q_SIGNALS:
     void failed(const QString &message);
 
 private:
+    void setFormat(std::unique_ptr<StreamFormat> newFormat);
+    QString chooseFormat(const Options &options);
+    QString chooseFraming(const Options &options);
     void needAllTypes();
 
     std::unique_ptr<StreamFormat> format;
+    QString framing;
     std::unique_ptr<Reception> reception;
     MessageNeed need{nullptr};
     ReplayClock clock;

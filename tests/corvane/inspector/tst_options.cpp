@@ -53,6 +53,12 @@ void tst_options::parse_everyOption_isTaken()
     QCOMPARE(options.durationSeconds, std::optional(1.5));
     QCOMPARE(options.source->text, QStringLiteral("c.tlog"));
 
+    const Options feed = parse(QStringLiteral("--definitions a.proto --root a.Root --import-path x "
+                                              "--import-path y --framing le32 -"));
+    QCOMPARE(feed.root, QStringLiteral("a.Root"));
+    QCOMPARE(feed.importFolders, (QStringList{QStringLiteral("x"), QStringLiteral("y")}));
+    QCOMPARE(feed.framing, QStringLiteral("le32"));
+
     const Options picture
         = parse(QStringLiteral("--framing raw --screenshot w.png --after 7 --definitions a.xml -"));
     QCOMPARE(picture.framing, QStringLiteral("raw"));
@@ -94,7 +100,7 @@ void tst_options::parse_mistake_isExplained_data()
     QTest::newRow("unknown option") << "--colour red"
                                     << "colour";
     QTest::newRow("framing") << "--framing can"
-                             << "auto, raw or tlog";
+                             << "auto, raw, tlog, varint or le32";
     QTest::newRow("speed zero") << "--speed 0"
                                 << "a number above 0, or max";
     QTest::newRow("speed negative") << "--speed=-1"
@@ -145,9 +151,9 @@ void tst_options::parse_helpAndVersion_winOverMistakes()
 void tst_options::getHelpText_namesEveryOption()
 {
     const QString help = Options::getHelpText();
-    for (const char *name : {"--definitions", "--overlay", "--framing", "--speed", "--report",
-                             "--duration", "--screenshot", "--after", "--help", "--version",
-                             "SOURCE", "tcp-listen://", "exec:COMMAND"})
+    for (const char *name : {"--definitions", "--root", "--import-path", "--overlay", "--framing",
+                             "--speed", "--report", "--duration", "--screenshot", "--after",
+                             "--help", "--version", "SOURCE", "tcp-listen://", "exec:COMMAND"})
         QVERIFY2(help.contains(QLatin1String(name)), name);
 }
 
