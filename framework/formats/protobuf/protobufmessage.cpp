@@ -1,5 +1,7 @@
 #include "protobufmessage.h"
 
+#include "protobufmemory.h"
+
 #include <google/protobuf/stubs/logging.h>
 
 #include <algorithm>
@@ -20,6 +22,9 @@ google::protobuf::ArenaOptions optionsFor(qsizetype size)
     options.max_block_size = 64 * 1024;
     return options;
 }
+
+// However it expands, a message of this size does no harm, and most are smaller.
+constexpr qsizetype alwaysFits = 64 * 1024;
 
 /** Whether the key of map entry \a left comes before that of \a right. */
 bool isBefore(const google::protobuf::Message &left,
@@ -58,11 +63,18 @@ ProtobufContent::ProtobufContent(std::shared_ptr<const ProtobufSchema> schema, Q
     this->bytes = QByteArrayView(copy, bytes.size());
 }
 
+bool ProtobufContent::isTooMuch(const google::protobuf::Descriptor *root, QByteArrayView bytes)
+{
+    return bytes.size() > alwaysFits && !fitsIntoMemory(bytes, root, maximumMemory);
+}
+
 std::unique_ptr<ProtobufContent>
 ProtobufContent::parse(std::shared_ptr<const ProtobufSchema> schema,
                        const google::protobuf::Descriptor *root,
                        QByteArrayView bytes)
 {
+    if (isTooMuch(root, bytes))
+        return nullptr;
     std::unique_ptr<ProtobufContent> content(new ProtobufContent(std::move(schema), bytes));
     google::protobuf::Message *message
         = content->schema->getPrototype(root)->New(content->getArena());

@@ -20,10 +20,16 @@ namespace corvane {
 class CORVANEFRAMEWORK_EXPORT ProtobufContent
 {
 public:
-    /** Parses \a bytes as a message of type \a root; null where they are none. */
+    /** A message that would take more memory is not parsed. */
+    static constexpr quint64 maximumMemory = 512 * 1024 * 1024;
+
+    /** Parses \a bytes as a message of type \a root; null where they are none, or too much. */
     static std::unique_ptr<ProtobufContent> parse(std::shared_ptr<const ProtobufSchema> schema,
                                                   const google::protobuf::Descriptor *root,
                                                   QByteArrayView bytes);
+
+    /** Whether \a bytes were refused because of maximumMemory. */
+    static bool isTooMuch(const google::protobuf::Descriptor *root, QByteArrayView bytes);
 
     const ProtobufSchema &getSchema() const { return *schema; }
 
