@@ -22,9 +22,11 @@ QString tr(const char *text)
     return QCoreApplication::translate("corvane::ProtobufDecoder", text);
 }
 
-const ProtobufFieldInfo *asProtobuf(const FieldInfo *field)
+/** Null for no field, and for one that an overlay made of parts of another. */
+const google::protobuf::FieldDescriptor *descriptorOf(const FieldInfo *field)
 {
-    return static_cast<const ProtobufFieldInfo *>(field);
+    const auto *transmitted = dynamic_cast<const ProtobufFieldInfo *>(field);
+    return transmitted != nullptr ? transmitted->getDescriptor() : nullptr;
 }
 
 } // namespace
@@ -75,10 +77,10 @@ bool ProtobufDecoder::prepare() const
     next->length = length;
     next->content = ProtobufContent::parse(format.getSchema(), format.getRoot(), bytes);
     const MessageInfoData &root = *format.getRootInfo()->getData();
-    if (next->content != nullptr && root.timeField != nullptr)
+    const auto *timeField = descriptorOf(root.timeField);
+    if (next->content != nullptr && timeField != nullptr)
         next->timeUs
-            = readProtobufTimeUs(next->content->getRoot(),
-                                 asProtobuf(root.timeField)->getDescriptor(), root.timeFieldUnitUs);
+            = readProtobufTimeUs(next->content->getRoot(), timeField, root.timeFieldUnitUs);
     return true;
 }
 
@@ -127,41 +129,35 @@ StreamDecoder::Step ProtobufDecoder::takeNext()
     return Step::Advanced;
 }
 
-void ProtobufDecoder::deliver(const FrameHeader &unknown)
-{
-    FrameHeader header = unknown;
-    header.messageInfo = format.getRootInfo();
-    const auto &envelope = format.getInfo()->getData()->envelope;
-    const google::protobuf::Message *message = &next->content->getRoot();
-    bool confidential = false;
-    if (envelope) {
-        if (envelope->sequenceField != nullptr)
-            header.sequence = readProtobufInteger(
-                *message, asProtobuf(envelope->sequenceField)->getDescriptor());
-        const ProtobufFieldInfo *field = findContentField();
-        header.messageInfo = field != nullptr ? field->getType().getSubMessageInfo() : nullptr;
-        if (header.messageInfo == nullptr) {
-            header.messageNumber = findUnknownNumber();
-            return reception.receiveUnknownFrame(header);
-        }
-        message = &message->GetReflection()->GetMessage(*message, field->getDescriptor());
-        confidential = field->isConfidential();
-    }
-    if (reception.receiveFrame(header))
-        reception.deliver(ProtobufMessage::create(header.messageInfo, std::move(next->content),
-                                                  *message, header.timeUs, confidential));
-}
-
-const ProtobufFieldInfo *ProtobufDecoder::findContentField() const
+void ProtobufDecoder::deliver(FrameHeader header)
 {
     const google::protobuf::Message &root = next->content->getRoot();
-    const auto &envelope = *format.getInfo()->getData()->envelope;
-    for (const FieldInfo *field : envelope.contentFields) {
-        const ProtobufFieldInfo *content = asProtobuf(field);
-        if (root.GetReflection()->HasField(root, content->getDescriptor()))
-            return content;
+    const auto &envelope = format.getInfo()->getData()->envelope;
+    if (!envelope || envelope->type != format.getRootInfo()) {
+        header.messageInfo = format.getRootInfo();
+        return deliver(header, root, false);
     }
-    return nullptr;
+    if (const auto *sequenceField = descriptorOf(envelope->sequenceField))
+        header.sequence = readProtobufInteger(root, sequenceField);
+    for (const FieldInfo *field : envelope->contentFields) {
+        const auto *content = descriptorOf(field);
+        if (!root.GetReflection()->HasField(root, content))
+            continue;
+        header.messageInfo = field->getType().getSubMessageInfo();
+        return deliver(header, root.GetReflection()->GetMessage(root, content),
+                       field->isConfidential());
+    }
+    header.messageNumber = findUnknownNumber();
+    reception.receiveUnknownFrame(header);
+}
+
+void ProtobufDecoder::deliver(const FrameHeader &header,
+                              const google::protobuf::Message &message,
+                              bool confidential)
+{
+    if (reception.receiveFrame(header))
+        reception.deliver(ProtobufMessage::create(header.messageInfo, std::move(next->content),
+                                                  message, header.timeUs, confidential));
 }
 
 quint32 ProtobufDecoder::findUnknownNumber() const

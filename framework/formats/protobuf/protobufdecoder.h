@@ -9,16 +9,13 @@
 #include <memory>
 #include <vector>
 
-class FieldInfo;
-
 namespace google::protobuf {
-class FieldDescriptor;
+class Message;
 } // namespace google::protobuf
 
 namespace corvane {
 
 class ProtobufContent;
-class ProtobufFieldInfo;
 class ProtobufFormat;
 class Reception;
 struct FrameHeader;
@@ -56,8 +53,9 @@ private:
     QByteArrayView getRest() const;
     bool prepare() const;
     Step takeNext();
-    void deliver(const FrameHeader &header);
-    const ProtobufFieldInfo *findContentField() const;
+    void deliver(FrameHeader header);
+    void
+    deliver(const FrameHeader &header, const google::protobuf::Message &message, bool confidential);
     quint32 findUnknownNumber() const;
     Step takeOversized(const ProtobufLength &length);
     Step passOver();
