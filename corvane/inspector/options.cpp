@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -25,10 +26,17 @@ struct OptionText
 
 constexpr std::array optionTexts{
     OptionText{"definitions", "FILE",
-               "Definitions of the messages: a MAVLink dialect (XML). May be repeated."},
+               "Definitions of the messages: a MAVLink dialect (.xml), or Protocol Buffers as text "
+               "(.proto) or descriptor set (.desc, .pb). May be repeated."},
+    OptionText{"root", "TYPE",
+               "Protocol Buffers: the type that the stream consists of, package.Type."},
+    OptionText{"import-path", "FOLDER",
+               "Protocol Buffers: where imports are looked for, beside the folders of the "
+               "definitions. May be repeated."},
     OptionText{"overlay", "FILE", "What the definitions cannot say (JSON). May be repeated."},
-    OptionText{"framing", "auto|raw|tlog",
-               "How frames stand in the stream; tlog: a time before each."},
+    OptionText{"framing", "auto|raw|tlog|varint|le32",
+               "How frames stand in the stream. MAVLink: raw, or tlog with a time before each. "
+               "Protocol Buffers: a length before each, as varint or as 4 bytes, little endian."},
     OptionText{"speed", "N|max",
                "Play recordings N times as fast as recorded, or as fast as possible."},
     OptionText{"report", "text|json",
@@ -48,8 +56,7 @@ constexpr std::array optionTexts{
     OptionText{"version", nullptr, "Print the version."},
 };
 
-const QStringList knownFramings{QStringLiteral("auto"), QStringLiteral("raw"),
-                                QStringLiteral("tlog")};
+constexpr std::array knownFramings{"auto", "raw", "tlog", "varint", "le32"};
 
 void describe(QCommandLineParser &parser)
 {
@@ -83,6 +90,8 @@ public:
     void read()
     {
         options.definitions = parser.values(QStringLiteral("definitions"));
+        options.importFolders = parser.values(QStringLiteral("import-path"));
+        options.root = parser.value(QStringLiteral("root"));
         options.overlays = parser.values(QStringLiteral("overlay"));
         options.restartsProgram = parser.isSet(QStringLiteral("restart"));
         options.screenshotFile = parser.value(QStringLiteral("screenshot"));
@@ -116,8 +125,12 @@ private:
         if (!parser.isSet(QStringLiteral("framing")))
             return;
         options.framing = parser.value(QStringLiteral("framing"));
-        if (!knownFramings.contains(options.framing))
-            complainOfValue("framing", tr("auto, raw or tlog"));
+        const bool known
+            = std::any_of(knownFramings.begin(), knownFramings.end(), [this](const char *name) {
+                  return options.framing == QLatin1String(name);
+              });
+        if (!known)
+            complainOfValue("framing", tr("auto, raw, tlog, varint or le32"));
     }
 
     void readReport()
@@ -203,7 +216,7 @@ private:
             complain(tr("--report needs a SOURCE to read; see --help."));
         if (options.source && options.definitions.isEmpty())
             complain(tr("Messages cannot be read without their definitions: name a MAVLink dialect "
-                        "with --definitions FILE."));
+                        "or Protocol Buffers files with --definitions FILE."));
         const bool isProgram
             = options.source && options.source->kind == SourceAddress::Kind::Program;
         if (options.restartsProgram && (!isProgram || reports))

@@ -37,6 +37,7 @@ struct Options
     Wish wish = Wish::Run;
     QString error;
     QStringList definitions;
+    QStringList importFolders; ///< Where definitions look for what they import.
     QString root; ///< The message type that a stream consists of, where that has to be said.
     QStringList overlays;
     QString framing; ///< One of the format's framings; empty for its default one.

@@ -6,12 +6,15 @@
 #include "mavlinkformat.h"
 #include "messageinfo.h"
 #include "overlayloader.h"
+#include "protobufformat.h"
 #include "reconnector.h"
 #include "streamdecoder.h"
 #include "streampump.h"
 
 #include <QDateTime>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace corvane {
 
@@ -30,21 +33,28 @@ bool isOpenedAgain(const Options &options)
     }
 }
 
+bool isProtobuf(const QString &file)
+{
+    return file.endsWith(QLatin1String(".proto")) || file.endsWith(QLatin1String(".desc"))
+           || file.endsWith(QLatin1String(".pb"));
+}
+
 } // namespace
 
 Session::Session(QObject *parent)
     : QObject(parent)
-    , format(std::make_unique<MavlinkFormat>())
-    , reception(std::make_unique<Reception>(*format))
 {
     connect(&recorder, &Recorder::failed, this,
             [this](const QString &message) { addEvent(CorvaneEvent::Other, message); });
+    setFormat(std::make_unique<MavlinkFormat>());
 }
 
 Session::~Session() = default;
 
 QStringList Session::load(const Options &options)
 {
+    if (const QString problem = chooseFormat(options); !problem.isEmpty())
+        return {problem};
     QStringList errors;
     for (const LoadError &error : format->loadFiles(options.definitions).errors)
         errors.append(error.toString());
@@ -53,8 +63,41 @@ QStringList Session::load(const Options &options)
         for (const QString &file : options.overlays)
             for (const LoadError &error : loadOverlay(file).errors)
                 errors.append(error.toString());
+    if (errors.isEmpty())
+        if (const QString problem = chooseFraming(options); !problem.isEmpty())
+            errors.append(problem);
     needAllTypes();
     return errors;
+}
+
+void Session::setFormat(std::unique_ptr<StreamFormat> newFormat)
+{
+    reception.reset();
+    format = std::move(newFormat);
+    reception = std::make_unique<Reception>(*format);
+}
+
+QString Session::chooseFormat(const Options &options)
+{
+    const auto protobufFiles
+        = std::count_if(options.definitions.begin(), options.definitions.end(), isProtobuf);
+    if (protobufFiles != 0 && protobufFiles != options.definitions.size())
+        return tr("Definitions of different formats cannot be mixed.");
+    if (protobufFiles != 0)
+        setFormat(std::make_unique<ProtobufFormat>(options.root, options.importFolders));
+    else if (!options.root.isEmpty() || !options.importFolders.isEmpty())
+        return tr("--root and --import-path go with definitions of Protocol Buffers.");
+    return {};
+}
+
+QString Session::chooseFraming(const Options &options)
+{
+    const FormatInfoData &data = *format->getInfo()->getData();
+    framing = options.framing.isEmpty() ? data.framing : options.framing;
+    if (framing.isEmpty() || data.framings.contains(framing))
+        return {};
+    return tr("--framing %1 does not go with %2; expected one of: %3.")
+        .arg(framing, data.name, data.framings.join(QStringLiteral(", ")));
 }
 
 void Session::needAllTypes()
@@ -72,10 +115,9 @@ std::unique_ptr<Reception> Session::createReception(MessageNeedManager &needs) c
     return std::make_unique<Reception>(*format, &needs);
 }
 
-std::unique_ptr<StreamDecoder> Session::createDecoder(Reception &receiver,
-                                                      const Options &source) const
+std::unique_ptr<StreamDecoder> Session::createDecoder(Reception &receiver) const
 {
-    return format->makeDecoder(receiver, source.framing);
+    return format->makeDecoder(receiver, framing);
 }
 
 void Session::start(const Options &newOptions)
@@ -84,7 +126,7 @@ void Session::start(const Options &newOptions)
     if (!options.source)
         return;
     source = createSource(*options.source);
-    decoder = createDecoder(*reception, options);
+    decoder = createDecoder(*reception);
     const bool atOnce = !options.opensWindow() || !options.speed;
     if (!atOnce)
         clock.setSpeed(*options.speed);

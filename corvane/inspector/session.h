@@ -53,8 +53,8 @@ public:
 
     /** A reception for another reading of a source; \a needs says what is decoded in it. */
     std::unique_ptr<Reception> createReception(MessageNeedManager &needs) const;
-    /** A frame reader that reports to \a receiver, framed as \a source says. */
-    std::unique_ptr<StreamDecoder> createDecoder(Reception &receiver, const Options &source) const;
+    /** A frame reader that reports to \a receiver. */
+    std::unique_ptr<StreamDecoder> createDecoder(Reception &receiver) const;
 
     /** The source's name for people; empty without a source. */
     QString getSourceName() const;
@@ -73,12 +73,16 @@ Q_SIGNALS:
     void stateChanged(const QString &text);
 
 private:
+    void setFormat(std::unique_ptr<StreamFormat> newFormat);
+    QString chooseFormat(const Options &options);
+    QString chooseFraming(const Options &options);
     void needAllTypes();
     void keepOpen();
     void addEvent(CorvaneEvent::Type type, const QString &text);
 
     std::unique_ptr<StreamFormat> format;
     Options options;
+    QString framing;
     std::unique_ptr<Reception> reception;
     MessageNeed need{nullptr};
     ReplayClock clock;

@@ -16,7 +16,7 @@ SourceReading::SourceReading(const Session &session,
     : QObject(parent)
     , reception(session.createReception(needs))
     , source(createSource(*options.source))
-    , decoder(session.createDecoder(*reception, options))
+    , decoder(session.createDecoder(*reception))
     , pump(std::make_unique<StreamPump>(*source, *decoder))
 {
     need.setMessagesNeeded(types);

@@ -9,11 +9,14 @@
 
 namespace corvane {
 
-DecodedMessage::DecodedMessage(const MessageInfo *info, qint64 timeUs, quint32 senderId)
+DecodedMessage::DecodedMessage(const MessageInfo *info,
+                               qint64 timeUs,
+                               quint32 senderId,
+                               bool confidential)
     : Message(info)
     , timeUs(timeUs)
     , senderId(senderId)
-    , confidential(false)
+    , confidential(confidential)
 {
 }
 

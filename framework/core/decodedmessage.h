@@ -31,7 +31,10 @@ public:
     virtual std::optional<quint32> getSequence() const;
 
 protected:
-    DecodedMessage(const MessageInfo *info, qint64 timeUs, quint32 senderId);
+    DecodedMessage(const MessageInfo *info,
+                   qint64 timeUs,
+                   quint32 senderId,
+                   bool confidential = false);
     /** A sub-message, which shares time, sender and confidentiality with \a mainMessage. */
     DecodedMessage(const MessageInfo *info, const DecodedMessage *mainMessage, bool confidential);
 

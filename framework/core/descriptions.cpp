@@ -25,6 +25,8 @@ QString pathOf(const FieldInfo *field)
     return path;
 }
 
+constexpr qsizetype maximumSentence = 160;
+
 } // namespace
 
 FieldInfo *MessageInfoData::addField(std::unique_ptr<FieldInfo> field, const MessageInfo *owner)
@@ -64,6 +66,15 @@ MessageInfo *FormatInfoData::addMessage(std::unique_ptr<MessageInfo> message)
 MessageInfo *FormatInfoData::findMessage(const QString &name) const
 {
     return messagesByName.value(name);
+}
+
+QString firstSentence(const QString &text)
+{
+    const auto end = text.indexOf(QLatin1String(". "));
+    const QString sentence = end < 0 ? text : text.left(end + 1);
+    if (sentence.size() <= maximumSentence)
+        return sentence;
+    return sentence.left(maximumSentence - 1).trimmed() + QChar(0x2026);
 }
 
 } // namespace corvane

@@ -6,8 +6,10 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class FormatInfo;
@@ -28,6 +30,7 @@ struct CORVANEFRAMEWORK_EXPORT FieldInfoData
     QList<const FieldInfo *> subFieldInfos;
     const FieldInfo *parent = nullptr; ///< Not owned.
     std::shared_ptr<const Enumeration> symbols; ///< May be null.
+    QString choice; ///< The choice (a oneof) that the field is a case of; empty for most fields.
     FieldInfo::Role role = FieldInfo::Ordinary;
     bool repeated = false;
     bool optional = false;
@@ -50,6 +53,8 @@ struct CORVANEFRAMEWORK_EXPORT MessageInfoData
     QString shortDescription;
     QString description;
     const FormatInfo *format = nullptr; ///< Not owned.
+    /** The same type where it is described again, inside of itself; named "NAME#2" and so on. */
+    QList<const MessageInfo *> variants;
     QList<const FieldInfo *> fields; ///< All, in their defined order, sub-fields included.
     std::vector<std::unique_ptr<FieldInfo>> ownedFields;
     const FieldInfo *timeField = nullptr; ///< The field that carries the message's time, if any.
@@ -59,6 +64,14 @@ struct CORVANEFRAMEWORK_EXPORT MessageInfoData
     bool main = true;
 };
 
+/** Messages that come wrapped: each message of a stream holds one of several types. */
+struct Envelope
+{
+    const MessageInfo *type = nullptr; ///< Not owned.
+    QList<const FieldInfo *> contentFields; ///< The cases, each a sub-message of a type of its own.
+    const FieldInfo *sequenceField = nullptr; ///< Counts the messages, if any.
+};
+
 /** What is known of a format. Owns its message types. */
 struct CORVANEFRAMEWORK_EXPORT FormatInfoData
 {
@@ -66,8 +79,14 @@ struct CORVANEFRAMEWORK_EXPORT FormatInfoData
     MessageInfo *findMessage(const QString &name) const;
 
     QString name;
+    QStringList framings; ///< How frames can stand in a stream, the default first.
+    QString framing; ///< How they do, as an overlay says; empty for the default.
+    std::optional<Envelope> envelope; ///< Filled by overlays.
     std::vector<std::unique_ptr<MessageInfo>> messages;
     QHash<QString, MessageInfo *> messagesByName;
 };
+
+/** The first sentence of \a text, cut (with an ellipsis) at 160 characters. */
+CORVANEFRAMEWORK_EXPORT QString firstSentence(const QString &text);
 
 } // namespace corvane

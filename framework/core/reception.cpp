@@ -101,6 +101,16 @@ void Reception::skipBytes(quint64 position, quint64 count, qint64 timeUs)
     });
 }
 
+void Reception::skipBytes(quint64 position, quint64 count, const QString &reason, qint64 timeUs)
+{
+    countSkippedBytes(count);
+    noteEvent({CorvaneEvent::LostBytes, static_cast<quint64>(qHash(reason))}, timeUs, [&] {
+        return EventGatherer::Text{
+            tr("%1 bytes from offset %2 are lost: %3.").arg(count).arg(position).arg(reason),
+            tr("Bytes lost: %1").arg(reason)};
+    });
+}
+
 void Reception::addEvent(CorvaneEvent::Type type, const QString &text, qint64 timeUs)
 {
     const auto subject = static_cast<quint64>(qHash(text));

@@ -85,6 +85,12 @@ public:
     void receiveDamagedFrame(const FrameHeader &frame, const QString &reason);
     /** \a position: offset in the stream of the first of \a count bytes that belong to no frame. */
     void skipBytes(quint64 position, quint64 count, qint64 timeUs);
+    /** The same, for bytes that should be a message and are none. \a reason: why they are none. */
+    void skipBytes(quint64 position, quint64 count, const QString &reason, qint64 timeUs);
+
+    /** Counts bytes that belong to no frame, which an event has told of. */
+    void countSkippedBytes(quint64 count) { totals.skippedBytes += count; }
+
     /**
      * What comes next does not follow what came last: the source was lost meanwhile, or another
      * place of a recording is read. So the step to it is neither a loss nor an interval.

@@ -45,12 +45,10 @@ public:
     /** The last sequence number before 0 comes again. */
     virtual quint32 getLastSequenceNumber() const = 0;
 
-    /** The names of the ways in which frames can stand in a stream, the default one first. */
-    virtual QStringList getFramings() const = 0;
     /**
      * The reader of a stream. The format and \a reception must outlive it.
      *
-     * \a framing: one of getFramings(), or empty for the default one.
+     * \a framing: one of the framings of getInfo(), or empty for the default one.
      */
     virtual std::unique_ptr<StreamDecoder> makeDecoder(Reception &reception,
                                                        const QString &framing) const = 0;

@@ -8,7 +8,21 @@
 #include "names.h"
 #include "overlaykeys.h"
 
+#include <QSet>
+
 namespace corvane {
+
+namespace {
+
+/** Whether the field is a sub-message with whole seconds and the nanoseconds beyond them. */
+bool isTimeStamp(const FieldInfo *field)
+{
+    const MessageInfo *type = field->getType().getSubMessageInfo();
+    return type != nullptr && type->getData()->findField(QStringLiteral("seconds")) != nullptr
+           && type->getData()->findField(QStringLiteral("nanos")) != nullptr;
+}
+
+} // namespace
 
 MessageReader::MessageReader(NodeReader &reader, OverlayPlan &plan)
     : reader(reader)
@@ -24,12 +38,81 @@ void MessageReader::readMessage(const JsonNode &node, const MessageInfo *message
     change.displayName = reader.readText(node, "displayName");
     change.description = reader.readText(node, "description");
     plan.changeMessage(message, change);
+    for (const MessageInfo *variant : message->getData()->variants)
+        plan.changeMessage(variant, change);
     if (const JsonNode *fields = reader.find(node, "fields", JsonNode::Object))
         readFields(*fields, message);
     if (const JsonNode *list = node.find(QStringLiteral("virtualFields")))
         NewFieldReader(reader, plan, message).readVirtualFields(*list, &unboundFields);
     if (const JsonNode *timeField = node.find(QStringLiteral("timeField")))
         timeFields.push_back({timeField, message});
+    if (const JsonNode *envelope = node.find(QStringLiteral("envelope")))
+        readEnvelope(*envelope, message);
+}
+
+void MessageReader::readEnvelope(const JsonNode &node, const MessageInfo *message)
+{
+    if (!reader.isObject(node, QStringLiteral("envelope")))
+        return;
+    Envelope envelope;
+    envelope.type = message;
+    const JsonNode *oneof = reader.require(node, "oneof", JsonNode::Text);
+    const bool isGood = oneof != nullptr && readContentFields(*oneof, envelope);
+    if (readSequenceField(node, envelope) && isGood)
+        plan.setEnvelope(envelope);
+}
+
+bool MessageReader::readContentFields(const JsonNode &oneof, Envelope &envelope)
+{
+    QStringList choices;
+    QSet<const MessageInfo *> types;
+    for (const FieldInfo *field : envelope.type->getData()->fields) {
+        const QString &choice = field->getData()->choice;
+        if (!choice.isEmpty() && !choices.contains(choice))
+            choices.append(choice);
+        if (choice.isEmpty() || choice != oneof.text)
+            continue;
+        const MessageInfo *type = field->getType().getSubMessageInfo();
+        if (type == nullptr || types.contains(type)) {
+            reader.addError(oneof, QStringLiteral("the case %1 of %2 cannot be a message type; "
+                                                  "expected a sub-message of a type of its own")
+                                       .arg(quoted(field->getData()->name), quoted(oneof.text)));
+            return false;
+        }
+        types.insert(type);
+        envelope.contentFields.append(field);
+    }
+    if (envelope.contentFields.isEmpty())
+        reader.addError(oneof, QStringLiteral("message %1 has no oneof %2%3")
+                                   .arg(quoted(envelope.type->getData()->name), quoted(oneof.text),
+                                        suggestion(oneof.text, choices)));
+    return !envelope.contentFields.isEmpty();
+}
+
+bool MessageReader::readSequenceField(const JsonNode &node, Envelope &envelope)
+{
+    if (node.find(QStringLiteral("sequenceField")) == nullptr)
+        return true;
+    const JsonNode *name = reader.find(node, "sequenceField", JsonNode::Text);
+    if (name == nullptr)
+        return false;
+    const FieldInfo *field = envelope.type->getData()->findField(name->text);
+    if (field == nullptr) {
+        reader.addError(*name, unknownFieldText(plan, envelope.type, name->text));
+        return false;
+    }
+    const qint32 code = field->getType().getCode();
+    const bool isInteger = code == FieldType::SignedInteger || code == FieldType::UnsignedInteger;
+    if (!isInteger || field->isRepeated() || field->getParentFieldInfo() != nullptr
+        || field->isVirtual())
+    {
+        reader.addError(*name, QStringLiteral("%1 cannot count the messages; expected a field that "
+                                              "is transmitted and holds one integer")
+                                   .arg(quoted(name->text)));
+        return false;
+    }
+    envelope.sequenceField = field;
+    return true;
 }
 
 void MessageReader::readFields(const JsonNode &object, const MessageInfo *message)
@@ -46,7 +129,11 @@ void MessageReader::readField(const JsonNode &node, const MessageInfo *message)
         return reader.addErrorAtKey(node, unknownFieldText(plan, message, node.key));
     if (!reader.isObject(node, QStringLiteral("field")))
         return;
-    plan.changeField(field, readFieldChange(reader, node, field->getType(), node.key));
+    const FieldChange change = readFieldChange(reader, node, field->getType(), node.key);
+    plan.changeField(field, change);
+    for (const MessageInfo *variant : message->getData()->variants)
+        if (const FieldInfo *same = variant->getData()->findField(node.key))
+            plan.changeField(same, change);
     if (const JsonNode *list = node.find(QStringLiteral("subFields")))
         NewFieldReader(reader, plan, message).readSubFields(*list, field);
 }
@@ -87,7 +174,7 @@ const FieldInfo *MessageReader::findTimeField(const JsonNode &node, const Messag
         reader.addError(*name, unknownFieldText(plan, message, name->text));
         return nullptr;
     }
-    if (isNumeric(field) && !field->isRepeated() && !field->isVirtual())
+    if ((isNumeric(field) || isTimeStamp(field)) && !field->isRepeated() && !field->isVirtual())
         return field;
     reader.addError(*name, QStringLiteral("%1 cannot carry the time; expected a field that is "
                                           "transmitted and holds one number")

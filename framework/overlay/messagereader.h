@@ -26,6 +26,9 @@ private:
         const MessageInfo *message; ///< Not owned.
     };
 
+    void readEnvelope(const JsonNode &node, const MessageInfo *message);
+    bool readContentFields(const JsonNode &oneof, Envelope &envelope);
+    bool readSequenceField(const JsonNode &node, Envelope &envelope);
     void readFields(const JsonNode &object, const MessageInfo *message);
     void readField(const JsonNode &node, const MessageInfo *message);
     void readTimeField(const TimeField &timeField);

@@ -25,10 +25,11 @@ QStringList names(const char *spaceSeparated)
 const QMap<QString, QStringList> &overlayKeys()
 {
     static const QMap<QString, QStringList> keys = {
-        {QStringLiteral("overlay"), names("$schema $comment format messages")},
+        {QStringLiteral("overlay"), names("$schema $comment format framing messages")},
         {QStringLiteral("message"),
-         names("$comment displayName description timeField fields virtualFields")},
+         names("$comment displayName description timeField envelope fields virtualFields")},
         {QStringLiteral("timeField"), names("$comment field unit")},
+        {QStringLiteral("envelope"), names("$comment oneof sequenceField")},
         {QStringLiteral("field"), names("$comment displayName description unit role confidential "
                                         "symbols bitMask subFields")},
         {QStringLiteral("subField"), names("$comment name firstBit bits bit signed displayName "

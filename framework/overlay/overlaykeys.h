@@ -10,8 +10,8 @@ namespace corvane {
 
 /**
  * The names that the objects of an overlay may have as members, by the kind of object: "overlay",
- * "message", "timeField", "field", "subField", "virtualField", "symbol". docs/overlay.schema.json
- * describes the same.
+ * "message", "timeField", "envelope", "field", "subField", "virtualField", "symbol".
+ * docs/overlay.schema.json describes the same.
  */
 CORVANEFRAMEWORK_EXPORT const QMap<QString, QStringList> &overlayKeys();
 

@@ -92,6 +92,9 @@ void load(JsonSource &source, const QList<const FormatInfo *> &formats)
     if (format == nullptr || messages == nullptr)
         return;
     OverlayPlan plan(format);
+    const QStringList &framings = format->getData()->framings;
+    if (const auto framing = reader.readChoice(*root, "framing", framings))
+        plan.setFraming(framings.at(*framing));
     readMessages(reader, *messages, plan);
     if (!source.getErrors().isEmpty())
         return;

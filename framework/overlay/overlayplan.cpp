@@ -91,7 +91,24 @@ void OverlayPlan::apply()
         added.message->getData()->addField(std::move(added.field), added.message);
     for (const auto &[message, change] : messageChanges)
         applyTo(message, change);
+    if (framing)
+        format->getData()->framing = *framing;
+    if (envelope)
+        applyEnvelope();
     updateConfidential();
+}
+
+void OverlayPlan::applyEnvelope()
+{
+    const auto setMain = [](const Envelope &wrapping, bool contentsAreMain) {
+        for (const FieldInfo *field : wrapping.contentFields)
+            field->getType().getSubMessageInfo()->getData()->main = contentsAreMain;
+        wrapping.type->getData()->main = !contentsAreMain;
+    };
+    if (const auto &previous = format->getData()->envelope)
+        setMain(*previous, false);
+    setMain(*envelope, true);
+    format->getData()->envelope = envelope;
 }
 
 void OverlayPlan::updateConfidential()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "descriptions.h"
 #include "fieldchange.h"
 
 #include <QHash>
@@ -48,6 +49,10 @@ public:
     void changeField(const FieldInfo *field, const FieldChange &change);
     void changeMessage(const MessageInfo *message, const MessageChange &change);
 
+    void setFraming(const QString &newFraming) { framing = newFraming; }
+
+    void setEnvelope(const Envelope &newEnvelope) { envelope = newEnvelope; }
+
     /** Makes all of it true. To be called once; the plan is used up then. */
     void apply();
 
@@ -58,9 +63,12 @@ private:
         std::unique_ptr<FieldInfo> field;
     };
 
+    void applyEnvelope();
     void updateConfidential();
 
     const FormatInfo *format; ///< Not owned.
+    std::optional<QString> framing;
+    std::optional<Envelope> envelope;
     std::vector<NewField> newFields;
     QHash<std::pair<const MessageInfo *, QString>, const FieldInfo *> newFieldsByPath;
     std::vector<std::pair<const FieldInfo *, FieldChange>> fieldChanges;

@@ -15,8 +15,6 @@ namespace corvane {
 
 namespace {
 
-constexpr qsizetype maximumSentence = 160;
-
 /** The named limits of the C integer types, as definitions use them. */
 std::optional<quint64> parseNamedLimit(QStringView text)
 {
@@ -196,15 +194,6 @@ std::unique_ptr<MessageInfo> makeMavlinkMessageInfo(const MavlinkMessageDefiniti
     for (size_t i = 0; i < definition.fields.size(); ++i)
         addField(*message, definition.fields[i], offsets[i], enumerations);
     return message;
-}
-
-QString firstSentence(const QString &text)
-{
-    const auto end = text.indexOf(QLatin1String(". "));
-    const QString sentence = end < 0 ? text : text.left(end + 1);
-    if (sentence.size() <= maximumSentence)
-        return sentence;
-    return sentence.left(maximumSentence - 1).trimmed() + QChar(0x2026);
 }
 
 } // namespace corvane

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "corvaneframework_export.h"
 #include "mavlinkdefinitions.h"
 
 #include <QHash>
@@ -21,8 +20,5 @@ using MavlinkEnumerations = QHash<QString, std::shared_ptr<Enumeration>>;
 std::unique_ptr<MessageInfo> makeMavlinkMessageInfo(const MavlinkMessageDefinition &definition,
                                                     const FormatInfo *format,
                                                     const MavlinkEnumerations &enumerations);
-
-/** The first sentence of \a text, cut (with an ellipsis) at 160 characters. */
-CORVANEFRAMEWORK_EXPORT QString firstSentence(const QString &text);
 
 } // namespace corvane

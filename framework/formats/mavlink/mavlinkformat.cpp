@@ -20,6 +20,9 @@ std::unique_ptr<FormatInfoData> makeFormatData()
 {
     auto data = std::make_unique<FormatInfoData>();
     data->name = QStringLiteral("MAVLink");
+    // In the order of MavlinkFraming.
+    data->framings
+        = QStringList{QStringLiteral("auto"), QStringLiteral("raw"), QStringLiteral("tlog")};
     return data;
 }
 
@@ -71,15 +74,10 @@ SenderTable::Namer MavlinkFormat::getSenderNamer() const
     return mavlinkSenderName;
 }
 
-QStringList MavlinkFormat::getFramings() const
-{
-    return {QStringLiteral("auto"), QStringLiteral("raw"), QStringLiteral("tlog")};
-}
-
 std::unique_ptr<StreamDecoder> MavlinkFormat::makeDecoder(Reception &reception,
                                                           const QString &framing) const
 {
-    const auto index = std::max<qsizetype>(0, getFramings().indexOf(framing));
+    const auto index = std::max<qsizetype>(0, info.getData()->framings.indexOf(framing));
     return std::make_unique<MavlinkDecoder>(*this, reception, static_cast<MavlinkFraming>(index));
 }
 

@@ -47,8 +47,7 @@ public:
 
     quint32 getLastSequenceNumber() const override { return 0xFF; }
 
-    /** "auto", "raw" and "tlog". */
-    QStringList getFramings() const override;
+    /** "auto", "raw" or "tlog". */
     std::unique_ptr<StreamDecoder> makeDecoder(Reception &reception,
                                                const QString &framing) const override;
 

@@ -56,6 +56,11 @@ void tst_options::parse_everyOption_isTaken()
 
     QVERIFY(!options.restartsProgram);
     QVERIFY(parse(QStringLiteral("--definitions a.xml --restart exec:b")).restartsProgram);
+    const Options feed = parse(QStringLiteral("--definitions a.proto --root a.Root --import-path x "
+                                              "--import-path y --framing le32 -"));
+    QCOMPARE(feed.root, QStringLiteral("a.Root"));
+    QCOMPARE(feed.importFolders, (QStringList{QStringLiteral("x"), QStringLiteral("y")}));
+    QCOMPARE(feed.framing, QStringLiteral("le32"));
 
     const Options picture
         = parse(QStringLiteral("--framing raw --screenshot w.png --after 7 --definitions a.xml -"));
@@ -116,7 +121,7 @@ void tst_options::parse_mistake_isExplained_data()
     QTest::newRow("unknown option") << "--colour red"
                                     << "colour";
     QTest::newRow("framing") << "--framing can"
-                             << "auto, raw or tlog";
+                             << "auto, raw, tlog, varint or le32";
     QTest::newRow("speed zero") << "--speed 0"
                                 << "a number above 0, or max";
     QTest::newRow("speed negative") << "--speed=-1"
@@ -186,9 +191,9 @@ void tst_options::getHelpText_namesEveryOption()
 {
     const QString help = Options::getHelpText();
     for (const char *name :
-         {"--definitions", "--overlay", "--framing", "--speed", "--report", "--duration",
-          "--export", "--select", "--output", "--raw", "--screenshot", "--after", "--help",
-          "--version", "SOURCE", "tcp-listen://", "exec:COMMAND"})
+         {"--definitions", "--root", "--import-path", "--overlay", "--framing", "--speed",
+          "--report", "--duration", "--export", "--select", "--output", "--raw", "--screenshot",
+          "--after", "--help", "--version", "SOURCE", "tcp-listen://", "exec:COMMAND"})
         QVERIFY2(help.contains(QLatin1String(name)), name);
 }
 

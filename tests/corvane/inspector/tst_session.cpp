@@ -25,6 +25,9 @@ private Q_SLOTS:
     void start_asFastAsPossible_deliversEveryGoodFrame();
     void start_atOwnPace_waitsForTheFrames();
     void start_missingFile_failsAndSaysSo();
+    void load_protobufDefinitions_choosesTheFormat();
+    void load_whatDoesNotGoTogether_isExplained_data();
+    void load_whatDoesNotGoTogether_isExplained();
     void getSourceName_withoutSource_isEmpty();
     void reconnect_beginsAfreshAndIsInTheLog();
     void reconnect_notWithoutWindow();
@@ -96,6 +99,69 @@ void tst_session::load_brokenFiles_areNamedWithTheirPlaces()
     QCOMPARE(overlayErrors.size(), 1);
     QVERIFY2(overlayErrors.at(0).contains(QStringLiteral("broken.xml:1:1:")),
              qPrintable(overlayErrors.at(0)));
+}
+
+void tst_session::load_protobufDefinitions_choosesTheFormat()
+{
+    const QTemporaryDir folder;
+    const auto write = [&folder](const char *name, const QByteArray &content) {
+        QFile file(folder.filePath(QLatin1String(name)));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(content);
+        return file.fileName();
+    };
+    Options options;
+    options.definitions
+        = {write("a.proto", "syntax = \"proto3\"; package p; message A { int32 x = 1; }")};
+    options.root = QStringLiteral("p.A");
+    options.framing = QStringLiteral("le32");
+    options.speed.reset();
+    options.source = SourceAddress::parse(write("a.bin", QByteArray::fromHex("02000000"
+                                                                             "0807"
+                                                                             "00000000")))
+                         .address;
+    Session session;
+    QCOMPARE(session.load(options), QStringList());
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    QVERIFY(finished.wait());
+    QCOMPARE(session.getReception().getTotals().frames, 2U);
+    QCOMPARE(session.getReception().getTotals().skippedBytes, 0U);
+    QVERIFY(!session.getReception().getTotals().crcErrors);
+}
+
+void tst_session::load_whatDoesNotGoTogether_isExplained_data()
+{
+    QTest::addColumn<QStringList>("definitions");
+    QTest::addColumn<QString>("root");
+    QTest::addColumn<QString>("framing");
+    QTest::addColumn<QString>("part");
+    const QString rover = sourceFile(QStringLiteral("examples/recording/rover.xml"));
+    QTest::newRow("two formats") << QStringList{rover, QStringLiteral("a.proto")} << QString()
+                                 << QString() << "cannot be mixed";
+    QTest::newRow("root of MAVLink")
+        << QStringList{rover} << "p.A" << QString() << "--root and --import-path go with";
+    QTest::newRow("framing of MAVLink")
+        << QStringList{rover} << QString() << "varint"
+        << "--framing varint does not go with MAVLink; expected one of: auto, raw, tlog";
+    QTest::newRow("no such file") << QStringList{QStringLiteral("no/such.proto")} << QString()
+                                  << QString() << "no/such.proto";
+}
+
+void tst_session::load_whatDoesNotGoTogether_isExplained()
+{
+    QFETCH(QStringList, definitions);
+    QFETCH(QString, root);
+    QFETCH(QString, framing);
+    QFETCH(QString, part);
+    Options options;
+    options.definitions = definitions;
+    options.root = root;
+    options.framing = framing;
+    Session session;
+    const QStringList errors = session.load(options);
+    QCOMPARE(errors.size(), 1);
+    QVERIFY2(errors.at(0).contains(part), qPrintable(errors.at(0)));
 }
 
 void tst_session::start_asFastAsPossible_deliversEveryGoodFrame()

@@ -117,7 +117,7 @@ constexpr ErrorCase rootErrors[] = {
 constexpr ErrorCase memberErrors[] = {
     {"unknown key of a message", R"(@@"displayname": "", @@"virtual": [])",
      R"(nothing is called "displayname" here; did you mean "displayName"?
-nothing is called "virtual" here; expected one of "$comment", "displayName", "description", "timeField", "fields", "virtualFields")"},
+nothing is called "virtual" here; expected one of "$comment", "displayName", "description", "timeField", "envelope", "fields", "virtualFields")"},
     {"displayName no text", R"("displayName": @@true)",
      R"("displayName": expected a text, found true or false)"},
     {"fields no object", R"("fields": @@"lat")", R"("fields": expected an object, found a text)"},
@@ -447,9 +447,9 @@ void TestOverlayErrors::text_namesFileAndPlace()
     QCOMPARE(
         format.load("{\"format\": \"Demo\",\n \"messages\": {}, \"a\": 1, \"b\": 2}").toString(),
         "test.json:2:18: nothing is called \"a\" here; expected one of \"$schema\", "
-        "\"$comment\", \"format\", \"messages\"\n"
+        "\"$comment\", \"format\", \"framing\", \"messages\"\n"
         "test.json:2:26: nothing is called \"b\" here; expected one of \"$schema\", "
-        "\"$comment\", \"format\", \"messages\"");
+        "\"$comment\", \"format\", \"framing\", \"messages\"");
 }
 
 void TestOverlayErrors::unknownFormat_namesTheLoadedOnes()

@@ -1,0 +1,184 @@
+#include "protobufschema.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <google/protobuf/descriptor.pb.h>
+#include <google/protobuf/stubs/logging.h>
+
+#include <set>
+
+namespace corvane {
+
+using google::protobuf::Descriptor;
+using google::protobuf::FileDescriptor;
+
+namespace {
+
+constexpr qint64 maximumSetSize = 64 * 1024 * 1024;
+
+void collectUsed(const Descriptor *message, std::set<const Descriptor *> &used)
+{
+    for (int i = 0; i < message->field_count(); ++i) {
+        const Descriptor *type = message->field(i)->message_type();
+        if (type != nullptr && type != message)
+            used.insert(type);
+    }
+    for (int i = 0; i < message->nested_type_count(); ++i)
+        collectUsed(message->nested_type(i), used);
+}
+
+} // namespace
+
+/** Turns what libprotobuf finds wrong into errors with the file's own path. */
+class ProtobufSchema::ErrorCollector final
+    : public google::protobuf::compiler::MultiFileErrorCollector
+{
+public:
+    explicit ErrorCollector(const ProtobufSourceTree &tree)
+        : tree(tree)
+    {
+    }
+
+    void
+    AddError(const std::string &filename, int line, int column, const std::string &message) override
+    {
+        errors.append(makeError(filename, line, column, message));
+    }
+
+    void AddWarning(const std::string &filename,
+                    int line,
+                    int column,
+                    const std::string &message) override
+    {
+        warnings.append(makeError(filename, line, column, message));
+    }
+
+    void add(const QString &file, const QString &message)
+    {
+        LoadError error;
+        error.file = file;
+        error.message = message;
+        errors.append(error);
+    }
+
+    QList<LoadError> errors;
+    QList<LoadError> warnings;
+
+private:
+    LoadError
+    makeError(const std::string &filename, int line, int column, const std::string &message) const
+    {
+        const QString name = QString::fromStdString(filename);
+        // Lines and columns count from 0 there; -1 stands for the file as a whole.
+        return {tree.findFile(name).value_or(name), line + 1, line < 0 ? 0 : column + 1,
+                QString::fromStdString(message)};
+    }
+
+    const ProtobufSourceTree &tree;
+};
+
+ProtobufSchema::ProtobufSchema()
+    : wellKnown(*google::protobuf::DescriptorPool::generated_pool())
+    , withoutText(&descriptorSets, &wellKnown)
+    , database(&tree, &withoutText)
+    , pool(&database, database.GetValidationErrorCollector())
+    , factory(&pool)
+{
+}
+
+ProtobufSchema::~ProtobufSchema() = default;
+
+ProtobufSchema::LoadResult ProtobufSchema::load(const QStringList &files,
+                                                const QStringList &importFolders)
+{
+    const google::protobuf::LogSilencer silencer;
+    auto schema = std::make_shared<ProtobufSchema>();
+    ErrorCollector collector(schema->tree);
+    schema->database.RecordErrorsTo(&collector);
+    for (const QString &folder : importFolders) {
+        if (!QFileInfo(folder).isDir())
+            collector.add(folder, QStringLiteral("There is no such folder to import from."));
+        schema->tree.addFolder(folder);
+    }
+    for (const QString &file : files) {
+        if (file.endsWith(QLatin1String(".proto")))
+            schema->addProtoFile(file, collector);
+        else
+            schema->addDescriptorSet(file, collector);
+    }
+    schema->database.RecordErrorsTo(nullptr);
+    if (!collector.errors.isEmpty())
+        schema.reset();
+    return {schema, collector.errors, collector.warnings};
+}
+
+void ProtobufSchema::addProtoFile(const QString &file, ErrorCollector &errors)
+{
+    const QFileInfo info(file);
+    if (!info.isFile())
+        return errors.add(file, QStringLiteral("There is no such file."));
+    if (!tree.getImportName(file))
+        tree.addFolder(info.path());
+    const QString name = tree.getImportName(file).value_or(info.fileName());
+    const QString found = tree.findFile(name).value_or(QString());
+    if (found != info.canonicalFilePath())
+        return errors.add(
+            file, QStringLiteral("The import path leads to %1 in place of this file.").arg(found));
+    build(name.toStdString(), errors);
+}
+
+void ProtobufSchema::addDescriptorSet(const QString &file, ErrorCollector &errors)
+{
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly))
+        return errors.add(file, QStringLiteral("Cannot be read: ") + source.errorString());
+    const QByteArray bytes = source.read(maximumSetSize + 1);
+    if (bytes.size() > maximumSetSize)
+        return errors.add(file, QStringLiteral("Larger than %1 bytes.").arg(maximumSetSize));
+    google::protobuf::FileDescriptorSet set;
+    if (!set.ParseFromArray(bytes.constData(), static_cast<int>(bytes.size()))
+        || set.file_size() == 0)
+        return errors.add(file, QStringLiteral("This is no descriptor set; protoc writes one with "
+                                               "--include_imports --include_source_info "
+                                               "--descriptor_set_out=FILE."));
+    for (const auto &description : set.file())
+        descriptorSets.Add(description);
+    for (const auto &description : set.file())
+        build(description.name(), errors);
+}
+
+void ProtobufSchema::build(const std::string &name, ErrorCollector &errors)
+{
+    const FileDescriptor *built = pool.FindFileByName(name);
+    if (built != nullptr)
+        files.push_back(built);
+    else if (errors.errors.isEmpty())
+        errors.add(QString::fromStdString(name), QStringLiteral("Cannot be loaded."));
+}
+
+const Descriptor *ProtobufSchema::findMessage(const QString &fullName) const
+{
+    return pool.FindMessageTypeByName(fullName.toStdString());
+}
+
+std::vector<const Descriptor *> ProtobufSchema::getOuterMessages() const
+{
+    std::set<const Descriptor *> used;
+    for (const FileDescriptor *file : files)
+        for (int i = 0; i < file->message_type_count(); ++i)
+            collectUsed(file->message_type(i), used);
+    std::vector<const Descriptor *> outer;
+    for (const FileDescriptor *file : files)
+        for (int i = 0; i < file->message_type_count(); ++i)
+            if (used.count(file->message_type(i)) == 0)
+                outer.push_back(file->message_type(i));
+    return outer;
+}
+
+const google::protobuf::Message *ProtobufSchema::getPrototype(const Descriptor *descriptor) const
+{
+    return factory.GetPrototype(descriptor);
+}
+
+} // namespace corvane

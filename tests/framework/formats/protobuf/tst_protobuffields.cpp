@@ -1,0 +1,501 @@
+#include "corvane.h"
+#include "descriptions.h"
+#include "everyfeature.h"
+#include "message.h"
+#include "messageinfo.h"
+#include "messageprinter.h"
+#include "protobuffieldinfo.h"
+#include "protobufmessages.h"
+#include "protobuftextform.h"
+#include "testcase.h"
+
+#include <QRandomGenerator>
+
+#include <cmath>
+
+using namespace corvane;
+using namespace corvane::test;
+
+class tst_ProtobufFields : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void value_isRead_data();
+    void value_isRead();
+    void bytes_beyondTheLimit_areCut();
+    void text_beyondTheLimit_isCut();
+    void text_countsCharacters();
+    void emptyText_isPresent();
+    void unknownNumber_ofClosedEnumeration_isShown();
+    void unknownNumber_ofOpenEnumeration_isShown();
+    void recursion_endsWithAText();
+    void subMessage_isMadeOnceAndKeepsTheMessage();
+    void any_isResolvedWhenItsTypeIsKnown();
+    void confidential_hidesPartsAtEveryDepth();
+    void fieldOfAnotherType_hasNoValue();
+    void randomMessages_equalThoseOfProtoc();
+};
+
+namespace {
+
+QString textOf(const ProtobufDefinitions &definitions, const Message *message, const QString &path)
+{
+    const FieldInfo *field = definitions.findField(message->getInfo()->getName(), path);
+    const unsigned int count = field->getNumberOfValues(message);
+    if (field->isStringField())
+        return count == 0 ? QStringLiteral("-") : field->getString(message);
+    QStringList texts;
+    for (unsigned int index = 0; index < count; ++index) {
+        const Message *part = field->getValue(message, index).getSubMessage();
+        texts.append(part != nullptr ? textForm(part).join(QLatin1Char(' '))
+                                     : field->getValueText(message, index, true));
+    }
+    return count == 0 ? QStringLiteral("-") : texts.join(QLatin1Char('|'));
+}
+
+} // namespace
+
+void tst_ProtobufFields::value_isRead_data()
+{
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("text");
+
+    const auto row = [](const char *content, const char *path, const char *text) {
+        QTest::addRow("%s -> %s", content, path) << content << path << QString::fromUtf8(text);
+    };
+    row("", "int32_field", "-");
+    row("int32_field: -2147483648", "int32_field", "-2147483648");
+    row("int64_field: -9223372036854775808", "int64_field", "-9223372036854775808");
+    row("uint32_field: 4294967295", "uint32_field", "4294967295");
+    row("uint64_field: 18446744073709551615", "uint64_field", "18446744073709551615");
+    row("sint32_field: -1", "sint32_field", "-1");
+    row("sint64_field: 9223372036854775807", "sint64_field", "9223372036854775807");
+    row("fixed32_field: 7", "fixed32_field", "7");
+    row("fixed64_field: 18446744073709551615", "fixed64_field", "18446744073709551615");
+    row("sfixed32_field: -7", "sfixed32_field", "-7");
+    row("sfixed64_field: -9", "sfixed64_field", "-9");
+    row("float_field: 0.1", "float_field", "0.1");
+    row("double_field: 0.1", "double_field", "0.1");
+    row("", "double_field", "-");
+    row("bool_field: false", "bool_field", "false");
+    row("string_field: 'abc'", "string_field", "abc");
+    row("", "string_field", "-");
+    row("bytes_field: '\\001\\xFF'", "bytes_field", "0x01FF");
+    row("color: GREEN", "color", "GREEN");
+    row("color: DARK", "color", "DARK");
+    row("unpacked: 1 unpacked: -2", "unpacked", "1|-2");
+    row("packed: [1, -2, 3]", "packed", "1|-2|3");
+    row("strings: 'a' strings: '' strings: 'ü'", "strings", "a||ü");
+    row("chunks: 'a' chunks: ''", "chunks", "0x61|0x");
+    row("colors: [RED, GREEN]", "colors", "RED|GREEN");
+    row("bools: [true, false]", "bools", "true|false");
+    row("", "part", "-");
+    row("part { }", "part", "");
+    row("part { value: 4 }", "part", "value: 4");
+    row("parts { value: 1 } parts { label: 'x' }", "parts", "value: 1|label: \"x\"");
+    row("number: 4", "number", "4");
+    row("text: 'x'", "number", "-");
+    row("piece { value: 2 }", "piece", "value: 2");
+    row("counts { key: 'a' value: 5 }", "counts", "key: \"a\" value: 5");
+    row("parts_by_number { key: 3 value { value: 4 } }", "parts_by_number",
+        "key: 3 value {   value: 4 }");
+    row("Pair { left: 1 right: 2 }", "pair", "left: 1 right: 2");
+    row("Item { name: 'a' } Item { }", "item", "name: \"a\"|");
+    row("inner { id: 6 }", "inner", "id: 6");
+    row("[test.extra]: 11", "[test.extra]", "11");
+    row("[test.more] { value: 3 }", "[test.more]", "value: 3");
+    row("modern { plain: 3 states: ON states: OFF maybe: 0 }", "modern",
+        "plain: 3 maybe: 0 states: ON states: OFF");
+    row("time { seconds: 5 nanos: 6 }", "time", "seconds: 5 nanos: 6");
+}
+
+void tst_ProtobufFields::value_isRead()
+{
+    QFETCH(QString, content);
+    QFETCH(QString, path);
+    QFETCH(QString, text);
+    const ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    QCOMPARE(definitions.getErrors(), QStringList());
+    ProtobufDefinitions &loaded = const_cast<ProtobufDefinitions &>(definitions);
+    const DecodedProtobuf message(loaded.getFormat(),
+                                  definitions.encode(QStringLiteral("id: 1 ") + content));
+    QCOMPARE(textOf(definitions, message.get(), path), text);
+}
+
+void tst_ProtobufFields::bytes_beyondTheLimit_areCut()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    const QString most(ProtobufFieldInfo::maximumBytes, QLatin1Char('a'));
+    const DecodedProtobuf whole(definitions.getFormat(),
+                                definitions.encode("id: 1 bytes_field: '" + most + '\''));
+    QCOMPARE(textOf(definitions, whole.get(), QStringLiteral("bytes_field")),
+             QStringLiteral("0x") + QStringLiteral("61").repeated(most.size()));
+    const DecodedProtobuf cut(definitions.getFormat(),
+                              definitions.encode("id: 1 bytes_field: '" + most + "b'"));
+    QCOMPARE(textOf(definitions, cut.get(), QStringLiteral("bytes_field")),
+             QStringLiteral("0x") + QStringLiteral("61").repeated(most.size())
+                 + QStringLiteral("… (cut, 257 bytes)"));
+}
+
+void tst_ProtobufFields::text_beyondTheLimit_isCut()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    const QString most(ProtobufFieldInfo::maximumCharacters, QLatin1Char('a'));
+    const DecodedProtobuf message(
+        definitions.getFormat(),
+        definitions.encode("id: 1 string_field: '" + most + "' strings: '" + most + "b'"));
+    QCOMPARE(textOf(definitions, message.get(), QStringLiteral("string_field")), most);
+    QCOMPARE(textOf(definitions, message.get(), QStringLiteral("strings")),
+             most + QStringLiteral("… (cut, 100001 characters)"));
+}
+
+void tst_ProtobufFields::text_countsCharacters()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    const DecodedProtobuf message(definitions.getFormat(),
+                                  definitions.encode(QStringLiteral("id: 1 string_field: 'aü😀'")));
+    const FieldInfo *field
+        = definitions.findField(QStringLiteral("Every"), QStringLiteral("string_field"));
+    QVERIFY(field->isStringField());
+    QVERIFY(field->isRepeated());
+    QVERIFY(field->isOptional());
+    QCOMPARE(field->getType().getCode(), qint32(FieldType::Character));
+    QCOMPARE(field->getNumberOfValues(message.get()), 3U);
+    QCOMPARE(field->getValueText(message.get(), 2, true), QStringLiteral("😀"));
+    QVERIFY(!field->getValue(message.get(), 3).isValid());
+}
+
+void tst_ProtobufFields::emptyText_isPresent()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    const auto *field = static_cast<const ProtobufFieldInfo *>(
+        definitions.findField(QStringLiteral("Every"), QStringLiteral("string_field")));
+    const DecodedProtobuf empty(definitions.getFormat(),
+                                definitions.encode(QStringLiteral("id: 1 string_field: ''")));
+    QVERIFY(field->isPresent(empty.get()));
+    QCOMPARE(field->getNumberOfValues(empty.get()), 0U);
+    const DecodedProtobuf absent(definitions.getFormat(),
+                                 definitions.encode(QStringLiteral("id: 1")));
+    QVERIFY(!field->isPresent(absent.get()));
+}
+
+void tst_ProtobufFields::unknownNumber_ofClosedEnumeration_isShown()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    // Field 17 (color) = 77; field 23 (colors) = 1, 78, 79.
+    const DecodedProtobuf message(definitions.getFormat(), QByteArray::fromHex("88014d"
+                                                                               "b80101"
+                                                                               "b8014e"
+                                                                               "b8014f"));
+    QVERIFY(message.get() != nullptr);
+    QCOMPARE(textOf(definitions, message.get(), QStringLiteral("color")), QStringLiteral("77"));
+    QCOMPARE(textOf(definitions, message.get(), QStringLiteral("colors")),
+             QStringLiteral("RED|78|79"));
+}
+
+void tst_ProtobufFields::unknownNumber_ofOpenEnumeration_isShown()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    const DecodedProtobuf message(
+        definitions.getFormat(),
+        definitions.encode(QStringLiteral("id: 1 modern { state: 9 states: [1, 9] }")));
+    QCOMPARE(textOf(definitions, message.get(), QStringLiteral("modern")),
+             QStringLiteral("state: 9 states: ON states: 9"));
+}
+
+void tst_ProtobufFields::recursion_endsWithAText()
+{
+    ProtobufDefinitions definitions(
+        {{QStringLiteral("node.proto"),
+          QStringLiteral(
+              "syntax = \"proto3\"; message Node { int32 depth = 1; Node next = 2; }")}});
+    QCOMPARE(definitions.getErrors(), QStringList());
+    QString text = QStringLiteral("depth: 40");
+    for (int depth = 39; depth >= 0; --depth)
+        text = QStringLiteral("depth: %1 next { %2 }").arg(depth).arg(text);
+    const DecodedProtobuf root(definitions.getFormat(), definitions.encode(text));
+
+    const Message *message = root.get();
+    int levels = 0;
+    while (true) {
+        const auto fields = message->getInfo()->getFieldInfos();
+        QCOMPARE(fields.at(0)->getValueText(message, 0, true), QString::number(levels));
+        const FieldValue next = fields.at(1)->getValue(message, 0);
+        if (next.getSubMessage() == nullptr) {
+            QVERIFY(fields.at(1)->getType().getSubMessageInfo() == nullptr);
+            QCOMPARE(fields.at(1)->getValueText(message, 0, true),
+                     QStringLiteral("(nested too deeply to be shown)"));
+            break;
+        }
+        QCOMPARE(next.getSubMessage()->getInfo(), fields.at(1)->getType().getSubMessageInfo());
+        QCOMPARE(next.getSubMessage()->getInfo()->getName(), QStringLiteral("Node"));
+        message = next.getSubMessage();
+        ++levels;
+    }
+    QCOMPARE(levels, 32);
+}
+
+void tst_ProtobufFields::subMessage_isMadeOnceAndKeepsTheMessage()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    const FieldInfo *field
+        = definitions.findField(QStringLiteral("Every"), QStringLiteral("inner"));
+    const Message *part = nullptr;
+    {
+        const DecodedProtobuf message(
+            definitions.getFormat(),
+            definitions.encode(QStringLiteral("id: 1 inner { id: 2 string_field: 'kept' }")));
+        part = field->getValue(message.get(), 0).getSubMessage();
+        QCOMPARE(field->getValue(message.get(), 0).getSubMessage(), part);
+        part->addReference();
+    }
+    QCOMPARE(part->getReferenceCount(), 1);
+    QCOMPARE(textForm(part).join(QLatin1Char(' ')), QStringLiteral("id: 2 string_field: \"kept\""));
+    part->removeReference();
+}
+
+void tst_ProtobufFields::any_isResolvedWhenItsTypeIsKnown()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    const auto decode = [&](const QString &any) {
+        const DecodedProtobuf message(
+            definitions.getFormat(),
+            definitions.encode(QStringLiteral("id: 1 any { ") + any + QStringLiteral(" }")));
+        const FieldInfo *field
+            = definitions.findField(QStringLiteral("Every"), QStringLiteral("any"));
+        return printed(field->getValue(message.get(), 0).getSubMessage()).split(QLatin1Char('\n'));
+    };
+    const QStringList known
+        = decode(QStringLiteral("type_url: 'type.example/test.Every' value: '\\010\\115'"));
+    QVERIFY2(known.contains(QStringLiteral("  type_url: type.example/test.Every")),
+             qPrintable(known.join(QLatin1Char('\n'))));
+    QVERIFY2(known.contains(QStringLiteral("    id: 77")),
+             qPrintable(known.join(QLatin1Char('\n'))));
+    for (const char *unknown : {"type_url: 'x/no.Such' value: '\\010\\001'",
+                                "type_url: 'x/test.Every' value: '\\377\\377'", ""})
+    {
+        const QStringList lines = decode(QString::fromLatin1(unknown));
+        QVERIFY2(lines.contains(QStringLiteral("  [Every]: []"))
+                     || lines.contains(QStringLiteral("  [Every]: -")),
+                 qPrintable(lines.join(QLatin1Char('\n'))));
+    }
+}
+
+void tst_ProtobufFields::confidential_hidesPartsAtEveryDepth()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    definitions.findField(QStringLiteral("Every"), QStringLiteral("inner"))->getData()->confidential
+        = true;
+    const DecodedProtobuf message(
+        definitions.getFormat(),
+        definitions.encode(QStringLiteral("id: 1 inner { id: 2 part { label: 'secret' } }")));
+    const FieldInfo *inner
+        = definitions.findField(QStringLiteral("Every"), QStringLiteral("inner"));
+    const Message *innerMessage = inner->getValue(message.get(), 0).getSubMessage();
+    const FieldInfo *part = innerMessage->getInfo()->getData()->findField(QStringLiteral("part"));
+    const Message *partMessage = part->getValue(innerMessage, 0).getSubMessage();
+    const FieldInfo *label = partMessage->getInfo()->getData()->findField(QStringLiteral("label"));
+    QVERIFY(!Corvane::confidentialInformationDisplayEnabled());
+    QCOMPARE(label->getString(partMessage), QStringLiteral("(confidential)"));
+}
+
+void tst_ProtobufFields::fieldOfAnotherType_hasNoValue()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    const DecodedProtobuf message(definitions.getFormat(),
+                                  definitions.encode(QStringLiteral("id: 1")));
+    for (const char *path : {"value", "label"}) {
+        const FieldInfo *field
+            = definitions.findField(QStringLiteral("Every.Part"), QLatin1String(path));
+        QCOMPARE(field->getNumberOfValues(message.get()), 0U);
+        QVERIFY(!field->getValue(message.get(), 0).isValid());
+        QCOMPARE(field->getString(message.get()), QString());
+    }
+}
+
+namespace {
+
+/** Writes random messages of the definitions with every feature in the text format. */
+class RandomText
+{
+public:
+    explicit RandomText(quint32 seed)
+        : random(seed)
+    {
+    }
+
+    QString every(int depth)
+    {
+        QString text = QStringLiteral("id: %1 ").arg(signedNumber(32));
+        for (const char *name : {"int32_field", "sint32_field", "sfixed32_field"})
+            maybe(text, name, [this] { return signedNumber(32); });
+        for (const char *name : {"int64_field", "sint64_field", "sfixed64_field"})
+            maybe(text, name, [this] { return signedNumber(64); });
+        for (const char *name : {"uint32_field", "fixed32_field"})
+            maybe(text, name, [this] { return unsignedNumber(32); });
+        for (const char *name : {"uint64_field", "fixed64_field"})
+            maybe(text, name, [this] { return unsignedNumber(64); });
+        maybe(text, "float_field", [this] { return floating(true); });
+        maybe(text, "double_field", [this] { return floating(false); });
+        maybe(text, "bool_field", [this] { return boolean(); });
+        maybe(text, "string_field", [this] { return string(); });
+        maybe(text, "bytes_field", [this] { return bytes(); });
+        maybe(text, "color", [this] { return color(); });
+        many(text, "unpacked", [this] { return signedNumber(32); });
+        many(text, "packed", [this] { return signedNumber(64); });
+        many(text, "doubles", [this] { return floating(false); });
+        many(text, "strings", [this] { return string(); });
+        many(text, "chunks", [this] { return bytes(); });
+        many(text, "colors", [this] { return color(); });
+        many(text, "bools", [this] { return boolean(); });
+        maybe(text, "part", [this] { return part(); });
+        many(text, "parts", [this] { return part(); });
+        switch (random.bounded(4)) {
+        case 0:
+            text += QStringLiteral("number: ") + signedNumber(32) + ' ';
+            break;
+        case 1:
+            text += QStringLiteral("text: ") + string() + ' ';
+            break;
+        case 2:
+            text += QStringLiteral("piece: ") + part() + ' ';
+            break;
+        default:
+            break;
+        }
+        for (quint32 i = random.bounded(4U); i > 0; --i)
+            text += QStringLiteral("counts { key: 'k%1' value: %2 } ").arg(i).arg(signedNumber(32));
+        for (quint32 i = random.bounded(4U); i > 0; --i)
+            text += QStringLiteral("parts_by_number { key: %1 value %2 } ").arg(i).arg(part());
+        maybe(text, "Pair",
+              [this] { return QStringLiteral("{ left: %1 }").arg(signedNumber(32)); });
+        many(text, "Item", [this] { return QStringLiteral("{ name: %1 }").arg(string()); });
+        maybe(text, "modern", [this] { return modern(); });
+        maybe(text, "[test.extra]", [this] { return signedNumber(32); });
+        many(text, "[test.more]", [this] { return part(); });
+        maybe(text, "time",
+              [this] { return QStringLiteral("{ seconds: %1 }").arg(signedNumber(64)); });
+        if (depth < 3)
+            maybe(text, "inner",
+                  [this, depth] { return QStringLiteral("{ %1 }").arg(every(depth + 1)); });
+        return text;
+    }
+
+private:
+    template <typename Make>
+    void maybe(QString &text, const char *name, Make make)
+    {
+        if (random.bounded(2) == 0)
+            text += QStringLiteral("%1: %2 ").arg(QLatin1String(name), make());
+    }
+
+    template <typename Make>
+    void many(QString &text, const char *name, Make make)
+    {
+        for (quint32 i = random.bounded(4U); i > 0; --i)
+            text += QStringLiteral("%1: %2 ").arg(QLatin1String(name), make());
+    }
+
+    QString unsignedNumber(int bits)
+    {
+        return QString::number(random.generate64() >> (64 - bits) >> random.bounded(bits));
+    }
+
+    QString signedNumber(int bits)
+    {
+        const auto number = static_cast<qint64>(random.generate64()) >> (64 - bits);
+        return QString::number(number >> random.bounded(bits));
+    }
+
+    QString floating(bool isSingle)
+    {
+        switch (random.bounded(6)) {
+        case 0:
+            return QStringLiteral("inf");
+        case 1:
+            return QStringLiteral("nan");
+        case 2:
+            return QStringLiteral("-0");
+        default:
+            break;
+        }
+        const int exponent = static_cast<int>(random.bounded(isSingle ? 60 : 600)) - 30;
+        return QString::number((random.generateDouble() - 0.5) * std::pow(10.0, exponent), 'g', 17);
+    }
+
+    QString boolean() { return random.bounded(2) == 0 ? "true" : "false"; }
+
+    QString color()
+    {
+        return QStringList{"RED", "GREEN", "DARK"}.at(static_cast<qsizetype>(random.bounded(3)));
+    }
+
+    QString string()
+    {
+        const QStringList texts{"''", "'plain'", "'quote \\' and \\\\'", "'äöü 😀'", "'line\\n'"};
+        return texts.at(static_cast<qsizetype>(random.bounded(texts.size())));
+    }
+
+    QString bytes()
+    {
+        QString text(QLatin1Char('\''));
+        for (quint32 i = random.bounded(20U); i > 0; --i)
+            text += QStringLiteral("\\%1").arg(random.bounded(256), 3, 8, QLatin1Char('0'));
+        return text + QLatin1Char('\'');
+    }
+
+    QString part()
+    {
+        QString text(QStringLiteral("{ "));
+        maybe(text, "value", [this] { return signedNumber(32); });
+        maybe(text, "label", [this] { return string(); });
+        return text + QLatin1Char('}');
+    }
+
+    QString modern()
+    {
+        QString text(QStringLiteral("{ "));
+        maybe(text, "plain", [this] { return signedNumber(32); });
+        maybe(text, "maybe", [] { return QStringLiteral("0"); });
+        maybe(text, "state", [this] { return QString::number(random.bounded(5)); });
+        many(text, "states", [this] { return QString::number(random.bounded(5)); });
+        maybe(text, "text", [this] { return string(); });
+        maybe(text, "data", [this] { return bytes(); });
+        many(text, "numbers", [this] { return unsignedNumber(32); });
+        maybe(text, "ratio", [this] { return unsignedNumber(16); });
+        maybe(text, "a", [this] { return signedNumber(32); });
+        maybe(text, "flag", [this] { return boolean(); });
+        return text + QLatin1Char('}');
+    }
+
+    QRandomGenerator random;
+};
+
+} // namespace
+
+void tst_ProtobufFields::randomMessages_equalThoseOfProtoc()
+{
+    if (protocProgram().isEmpty())
+        QSKIP("protoc is not installed");
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    const QString file = definitions.path(QStringLiteral("every.proto"));
+    QStringList ours;
+    QList<QByteArray> messages;
+    for (quint32 seed = 0; seed < 40; ++seed) {
+        const QByteArray bytes
+            = encodeWithProtoc(file, QStringLiteral("test.Every"), RandomText(seed).every(0));
+        const DecodedProtobuf message(definitions.getFormat(), bytes);
+        QVERIFY(message.get() != nullptr);
+        ours << QStringLiteral("message {") << textForm(message.get(), 2) << QStringLiteral("}");
+        messages.append(bytes);
+    }
+    const QStringList theirs = decodeWithProtoc(file, QStringLiteral("test.Every"), messages);
+    QVERIFY(theirs.size() > 1000);
+    QCOMPARE(findDifference(ours, theirs), QString());
+}
+
+CORVANE_TEST_MAIN(tst_ProtobufFields)
+
+#include "tst_protobuffields.moc"
