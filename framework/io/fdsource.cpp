@@ -89,6 +89,12 @@ void FdSource::closeDevice()
     reader.close();
 }
 
+bool FdSource::seekDevice(qint64 offset)
+{
+    return regularFile && reader.isOpen()
+           && ::lseek(reader.getDescriptor(), offset, SEEK_SET) == offset;
+}
+
 qint64 FdSource::readDevice(char *data, qint64 maximum)
 {
     const qint64 count = reader.read(data, maximum);

@@ -36,6 +36,7 @@ protected:
     void openDevice() override;
     void closeDevice() override;
     qint64 readDevice(char *data, qint64 maximum) override;
+    bool seekDevice(qint64 offset) override;
 
 private:
     QString name;

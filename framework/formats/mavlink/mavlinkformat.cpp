@@ -104,4 +104,13 @@ void MavlinkFormat::addMessage(const MavlinkMessageDefinition &definition)
         highTypes.insert(definition.id, index);
 }
 
+QHash<quint32, quint8> MavlinkFormat::getChecksumExtras() const
+{
+    QHash<quint32, quint8> extras;
+    for (const MavlinkMessageType &type : types)
+        if (type.info != nullptr)
+            extras.insert(type.info->getData()->number, type.checksumExtra);
+    return extras;
+}
+
 } // namespace corvane

@@ -56,6 +56,9 @@ public:
         return index == 0 ? nullptr : &types[index];
     }
 
+    /** The byte that a type's checksum takes, by message id. */
+    QHash<quint32, quint8> getChecksumExtras() const;
+
 private:
     QList<LoadError> findConflicts(const MavlinkDefinitions &definitions) const;
     void addEnumerations(const MavlinkDefinitions &definitions);
