@@ -20,6 +20,7 @@ class LatestMessages;
 class MessageTreePanel;
 class MessageTypeModel;
 class Session;
+class TransportBar;
 class WatchPanel;
 
 /** The inspector's window: panels that each show another side of what is received, live. */
@@ -63,6 +64,7 @@ private:
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.
     WatchPanel *watch = nullptr; ///< Owned as a child.
+    TransportBar *transport = nullptr; ///< Owned as a child.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
     QAction *pauseAction = nullptr; ///< Owned as a child.
     QLabel *stateLabel = nullptr; ///< Owned as a child.

@@ -3,13 +3,17 @@
 #include "bytesource.h"
 #include "decodedmessage.h"
 #include "descriptions.h"
+#include "fileindex.h"
 #include "mavlinkmessage.h"
+#include "mavlinkscanner.h"
 #include "messageinfo.h"
 #include "overlayloader.h"
+#include "playback.h"
 #include "reconnector.h"
 #include "streampump.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 
 namespace corvane {
@@ -27,6 +31,14 @@ bool isOpenedAgain(const Options &options)
     default:
         return options.opensWindow();
     }
+}
+
+MavlinkFraming findFraming(const MavlinkFormat &format, const QString &path)
+{
+    constexpr qint64 enoughBytes = 64 * 1024;
+    QFile file(path);
+    const bool isOpen = file.open(QIODevice::ReadOnly);
+    return MavlinkDecoder::findFraming(format, isOpen ? file.read(enoughBytes) : QByteArray());
 }
 
 } // namespace
@@ -72,10 +84,12 @@ void Session::start(const Options &options)
         return;
     source = createSource(*options.source);
     decoder = std::make_unique<MavlinkDecoder>(format, *reception, options.framing);
-    const bool atOnce = !options.opensWindow() || !options.speed;
-    if (!atOnce)
+    if (options.speed)
         clock.setSpeed(*options.speed);
-    pump = std::make_unique<StreamPump>(*source, *decoder, atOnce ? nullptr : &clock);
+    else
+        clock.setAsFastAsPossible();
+    pump
+        = std::make_unique<StreamPump>(*source, *decoder, options.opensWindow() ? &clock : nullptr);
     if (isOpenedAgain(options)) {
         keepOpen();
     } else {
@@ -87,6 +101,24 @@ void Session::start(const Options &options)
     }
     connect(pump.get(), &StreamPump::chunkRead, &recorder, &Recorder::write);
     pump->start();
+    makePlayback(options);
+}
+
+void Session::makePlayback(const Options &options)
+{
+    playback.reset();
+    index.reset();
+    // What is no regular file has no size, and no places to go to.
+    if (options.opensWindow() && source->getSize()) {
+        index = std::make_unique<FileIndex>();
+        playback = std::make_unique<Playback>(
+            Playback::Parts{*pump, *source, *decoder, *reception, clock, *index});
+        const MavlinkFraming framing = options.framing == MavlinkFraming::Automatic
+                                           ? findFraming(format, options.source->text)
+                                           : options.framing;
+        index->start(options.source->text, std::make_unique<MavlinkScanner>(format, framing));
+    }
+    Q_EMIT playbackChanged();
 }
 
 void Session::keepOpen()
@@ -121,6 +153,8 @@ void Session::stop()
 {
     if (reconnector)
         reconnector->stop();
+    if (index)
+        index->cancel();
     if (pump)
         pump->stop();
 }

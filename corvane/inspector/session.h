@@ -15,6 +15,8 @@
 namespace corvane {
 
 class ByteSource;
+class FileIndex;
+class Playback;
 class Reconnector;
 class StreamPump;
 
@@ -46,6 +48,9 @@ public:
 
     const Reception &getReception() const { return *reception; }
 
+    /** The controls of a file that is watched in a window; null for other sources. */
+    Playback *getPlayback() { return playback.get(); }
+
     /** The source's name for people; empty without a source. */
     QString getSourceName() const;
     /** Datagrams that the system dropped, where it tells. */
@@ -56,6 +61,8 @@ Q_SIGNALS:
     void finished();
     /** The source could not be opened, or broke; \a message says what, where and what to do. */
     void failed(const QString &message);
+    /** start() has made other controls, or none. */
+    void playbackChanged();
     /**
      * How it stands with a live source that is watched in a window, in words: it is opened again
      * when it goes away, and so neither finishes nor fails.
@@ -65,6 +72,7 @@ Q_SIGNALS:
 private:
     void needAllTypes();
     void keepOpen();
+    void makePlayback(const Options &options);
     void addEvent(CorvaneEvent::Type type, const QString &text);
 
     MavlinkFormat format;
@@ -76,6 +84,8 @@ private:
     std::unique_ptr<MavlinkDecoder> decoder;
     std::unique_ptr<StreamPump> pump;
     std::unique_ptr<Reconnector> reconnector; ///< Null for a source that is opened once.
+    std::unique_ptr<FileIndex> index;
+    std::unique_ptr<Playback> playback;
 };
 
 } // namespace corvane

@@ -1,5 +1,7 @@
+#include "fileindex.h"
 #include "message.h"
 #include "messageinfo.h"
+#include "playback.h"
 #include "session.h"
 #include "testcase.h"
 
@@ -29,6 +31,7 @@ private Q_SLOTS:
     void reconnect_beginsAfreshAndIsInTheLog();
     void reconnect_notWithoutWindow();
     void program_isStartedAgainIfAskedFor();
+    void playback_isThereForFilesInAWindow();
     void recording_hasTheBytesOfTheSource();
     void recording_toTheSourceItself_isRefused();
     void recording_failure_isInTheLog();
@@ -232,6 +235,41 @@ void tst_session::program_isStartedAgainIfAskedFor()
     QCOMPARE(again.getReception().getTotals().frames, 2 * 1737U);
     QCOMPARE(never.size(), 0);
     again.stop();
+}
+
+void tst_session::playback_isThereForFilesInAWindow()
+{
+    Options options = recordingOptions();
+    options.speed = 2.0;
+    Session session;
+    session.load(options);
+    QSignalSpy changed(&session, &Session::playbackChanged);
+    QVERIFY(!session.getPlayback());
+    session.start(options);
+    QCOMPARE(changed.size(), 1);
+    QVERIFY(session.getPlayback());
+    QCOMPARE(session.getPlayback()->getSpeed(), std::optional(2.0));
+    QTRY_VERIFY(session.getPlayback()->getIndex().getLastTimeUs());
+    session.stop();
+
+    options.speed.reset();
+    Session fast;
+    fast.load(options);
+    fast.start(options);
+    QVERIFY(!fast.getPlayback()->getSpeed());
+
+    options.report = Options::Report::Text;
+    Session report;
+    report.load(options);
+    report.start(options);
+    QVERIFY(!report.getPlayback());
+
+    options = recordingOptions();
+    options.source->text = QStringLiteral("missing");
+    Session missing;
+    missing.load(options);
+    missing.start(options);
+    QVERIFY(!missing.getPlayback());
 }
 
 void tst_session::recording_hasTheBytesOfTheSource()
