@@ -33,6 +33,7 @@ constexpr std::array optionTexts{
     OptionText{"report", "text|json",
                "Read the source to its end without a window and print what arrived."},
     OptionText{"duration", "SECONDS", "With --report: stop after this time."},
+    OptionText{"follow", nullptr, "Read a file on when it grows."},
     OptionText{"restart", nullptr, "Start a program (exec:) again when it has ended."},
     OptionText{"screenshot", "FILE", "Write the window as a PNG file and exit."},
     OptionText{"after", "SECONDS", "With --screenshot: when to write it; 3 by default."},
@@ -159,6 +160,8 @@ private:
         if (!result.address)
             complain(result.error);
         options.source = result.address;
+        if (options.source)
+            options.source->isFollowed = parser.isSet(QStringLiteral("follow"));
     }
 
     void checkTogether()
@@ -172,6 +175,9 @@ private:
         if (options.source && options.definitions.isEmpty())
             complain(tr("Messages cannot be read without their definitions: name a MAVLink dialect "
                         "with --definitions FILE."));
+        const bool isFile = options.source && options.source->kind == SourceAddress::Kind::File;
+        if (parser.isSet(QStringLiteral("follow")) && !isFile)
+            complain(tr("--follow goes with a source that is a file."));
         const bool isProgram
             = options.source && options.source->kind == SourceAddress::Kind::Program;
         if (options.restartsProgram && (!isProgram || reports))

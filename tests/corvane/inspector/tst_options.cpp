@@ -54,6 +54,8 @@ void tst_options::parse_everyOption_isTaken()
     QCOMPARE(options.durationSeconds, std::optional(1.5));
     QCOMPARE(options.source->text, QStringLiteral("c.tlog"));
 
+    QVERIFY(!options.source->isFollowed);
+    QVERIFY(parse(QStringLiteral("--definitions a.xml --follow b")).source->isFollowed);
     QVERIFY(!options.restartsProgram);
     QVERIFY(parse(QStringLiteral("--definitions a.xml --restart exec:b")).restartsProgram);
 
@@ -123,6 +125,8 @@ void tst_options::parse_mistake_isExplained_data()
                                    << "seconds";
     QTest::newRow("duration alone") << "--duration 3"
                                     << "--duration goes with --report";
+    QTest::newRow("follow of no file") << "--definitions a --follow udp://:1"
+                                       << "--follow goes with a source that is a file";
     QTest::newRow("restart of no program") << "--definitions a --restart udp://:1"
                                            << "--restart goes with a source exec:COMMAND";
     QTest::newRow("restart without window") << "--definitions a --restart --report text exec:b"
@@ -154,8 +158,8 @@ void tst_options::getHelpText_namesEveryOption()
 {
     const QString help = Options::getHelpText();
     for (const char *name : {"--definitions", "--overlay", "--framing", "--speed", "--report",
-                             "--duration", "--screenshot", "--after", "--help", "--version",
-                             "SOURCE", "tcp-listen://", "exec:COMMAND"})
+                             "--duration", "--follow", "--restart", "--screenshot", "--after",
+                             "--help", "--version", "SOURCE", "tcp-listen://", "exec:COMMAND"})
         QVERIFY2(help.contains(QLatin1String(name)), name);
 }
 

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void reconnect_notWithoutWindow();
     void program_isStartedAgainIfAskedFor();
     void playback_isThereForFilesInAWindow();
+    void followedFile_isWatchedWhileItGrows();
     void recording_hasTheBytesOfTheSource();
     void recording_toTheSourceItself_isRefused();
     void recording_failure_isInTheLog();
@@ -270,6 +271,35 @@ void tst_session::playback_isThereForFilesInAWindow()
     missing.load(options);
     missing.start(options);
     QVERIFY(!missing.getPlayback());
+}
+
+void tst_session::followedFile_isWatchedWhileItGrows()
+{
+    const QTemporaryDir folder;
+    Options options = recordingOptions();
+    const QByteArray recording = readFile(options.source->text);
+    QFile growing(folder.filePath(QStringLiteral("growing.tlog")));
+    QVERIFY(growing.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    const qsizetype cut = 20'003;
+    growing.write(recording.first(cut));
+    options.source->text = growing.fileName();
+    options.source->isFollowed = true;
+    options.speed.reset();
+    Session session;
+    session.load(options);
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    const Reception::Totals &totals = session.getReception().getTotals();
+    QTRY_COMPARE(totals.bytes, quint64(cut));
+    QVERIFY(session.getPlayback()->isPlaying());
+    growing.write(recording.sliced(cut));
+    QTRY_COMPARE(totals.frames, 1737U);
+    QCOMPARE(totals.skippedBytes, 0U);
+    QTRY_COMPARE(session.getPlayback()->getIndex().getIndexedBytes(), recording.size());
+    QCOMPARE(session.getPlayback()->getPosition(), recording.size());
+    QCOMPARE(finished.size(), 0);
+    session.getPlayback()->seek(0);
+    QTRY_COMPARE(totals.frames, 2 * 1737U);
 }
 
 void tst_session::recording_hasTheBytesOfTheSource()
