@@ -82,6 +82,7 @@ void Session::start(const Options &options)
 {
     if (!options.source)
         return;
+    close();
     source = createSource(*options.source);
     decoder = std::make_unique<MavlinkDecoder>(format, *reception, options.framing);
     if (options.speed)
@@ -104,13 +105,26 @@ void Session::start(const Options &options)
     makePlayback(options);
 }
 
-void Session::makePlayback(const Options &options)
+/** Each part before those that it uses. */
+void Session::close()
 {
     playback.reset();
     index.reset();
+    reconnector.reset();
+    pump.reset();
+    decoder.reset();
+    source.reset();
+    clock = ReplayClock();
+    reception->noteDiscontinuity();
+}
+
+void Session::makePlayback(const Options &options)
+{
     // What is no regular file has no size, and no places to go to.
     if (options.opensWindow() && source->getSize()) {
         index = std::make_unique<FileIndex>();
+        connect(index.get(), &FileIndex::failed, this,
+                [this](const QString &message) { addEvent(CorvaneEvent::Other, message); });
         playback = std::make_unique<Playback>(
             Playback::Parts{*pump, *source, *decoder, *reception, clock, *index});
         const MavlinkFraming framing = options.framing == MavlinkFraming::Automatic

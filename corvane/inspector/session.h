@@ -71,6 +71,7 @@ Q_SIGNALS:
 
 private:
     void needAllTypes();
+    void close();
     void keepOpen();
     void makePlayback(const Options &options);
     void addEvent(CorvaneEvent::Type type, const QString &text);

@@ -13,6 +13,7 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTemporaryDir>
+#include <QToolBar>
 #include <QTreeView>
 
 using namespace corvane;
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void darkPalette_isFollowed();
     void totals_nameDamage();
     void paused_viewsStandStillAndTheBarSaysWhatCame();
+    void transportBar_isThereForRecordingsOnly();
     void layout_isRememberedByTheSettings();
     void layout_ofRandomBytes_startsWithTheDefault();
 };
@@ -207,6 +209,17 @@ void tst_mainwindow::paused_viewsStandStillAndTheBarSaysWhatCame()
     pause->trigger();
     QVERIFY(shown.form() != before);
     QVERIFY(!shown.says(QStringLiteral("Paused")));
+}
+
+void tst_mainwindow::transportBar_isThereForRecordingsOnly()
+{
+    Shown shown(1.0);
+    const auto *bar = shown.window->findChild<QToolBar *>(QStringLiteral("transport"));
+    QVERIFY(bar->isVisible());
+    Options live = shown.options;
+    live.source = SourceAddress::parse(QStringLiteral("udp://127.0.0.1:0")).address;
+    shown.session.start(live);
+    QVERIFY(!bar->isVisible());
 }
 
 void tst_mainwindow::layout_isRememberedByTheSettings()

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void reconnect_notWithoutWindow();
     void program_isStartedAgainIfAskedFor();
     void playback_isThereForFilesInAWindow();
+    void start_again_forgetsTheFormerSource();
     void followedFile_isWatchedWhileItGrows();
     void recording_hasTheBytesOfTheSource();
     void recording_toTheSourceItself_isRefused();
@@ -271,6 +272,28 @@ void tst_session::playback_isThereForFilesInAWindow()
     missing.load(options);
     missing.start(options);
     QVERIFY(!missing.getPlayback());
+}
+
+void tst_session::start_again_forgetsTheFormerSource()
+{
+    Options refused = recordingOptions();
+    refused.source = SourceAddress::parse(QStringLiteral("tcp://127.0.0.1:1")).address;
+    Session session;
+    session.load(refused);
+    QSignalSpy states(&session, &Session::stateChanged);
+    session.start(refused);
+    QTRY_VERIFY(!states.isEmpty());
+
+    session.start(recordingOptions());
+    session.getPlayback()->pause();
+    Options fast = recordingOptions();
+    fast.speed.reset();
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(fast);
+    QTRY_COMPARE(finished.size(), 1);
+    states.clear();
+    QTest::qWait(600);
+    QCOMPARE(states.size(), 0);
 }
 
 void tst_session::followedFile_isWatchedWhileItGrows()
