@@ -14,6 +14,7 @@
 #include "senderspanel.h"
 #include "session.h"
 #include "statisticspanel.h"
+#include "transportbar.h"
 #include "watchpanel.h"
 
 #include <QCloseEvent>
@@ -121,6 +122,9 @@ void MainWindow::createPanels()
     setCentralWidget(centre);
     form = new FormPanel(*latest);
     addPanel(typeView, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
+    transport = new TransportBar(this);
+    addToolBar(Qt::BottomToolBarArea, transport);
+    viewMenu->addAction(transport->toggleViewAction());
     watch = new WatchPanel(*latest);
     QDockWidget *formDock
         = addPanel(form, QStringLiteral("form"), tr("Form"), Qt::RightDockWidgetArea);
@@ -221,6 +225,9 @@ void MainWindow::connectAll()
     connect(latest, &LatestMessages::typeSeen, this, &MainWindow::chooseFirstType);
     connect(typeView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &MainWindow::showChosenType);
+    connect(&session, &Session::playbackChanged, this,
+            [this] { transport->setPlayback(this->session.getPlayback()); });
+    transport->setPlayback(session.getPlayback());
     connect(tree, &MessageTreePanel::typeChosen, this, &MainWindow::chooseType);
     connect(pauseAction, &QAction::toggled, this, &MainWindow::setPaused);
     connect(&countsTimer, &QTimer::timeout, this, &MainWindow::refreshCounts);

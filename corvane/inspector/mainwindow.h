@@ -25,6 +25,7 @@ class MessageTypeModel;
 class SendersPanel;
 class Session;
 class StatisticsPanel;
+class TransportBar;
 class WatchPanel;
 
 /** The inspector's window: panels that each show another side of what is received, live. */
@@ -81,6 +82,7 @@ private:
     StatisticsPanel *statistics = nullptr; ///< Owned as a child.
     SendersPanel *senders = nullptr; ///< Owned as a child.
     AbstractPlotPanel *plot = nullptr; ///< Owned as a child; null in a build without it.
+    TransportBar *transport = nullptr; ///< Owned as a child.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
     QAction *pauseAction = nullptr; ///< Owned as a child.
     QLabel *stateLabel = nullptr; ///< Owned as a child.

@@ -41,6 +41,7 @@ constexpr std::array optionTexts{
                "Play recordings N times as fast as recorded, or as fast as possible."},
     OptionText{"report", "text|json",
                "Read the source to its end without a window and print what arrived."},
+    OptionText{"follow", nullptr, "Read a file on when it grows."},
     OptionText{"restart", nullptr, "Start a program (exec:) again when it has ended."},
     OptionText{"export", "csv|jsonl",
                "Read the source to its end without a window and write its messages."},
@@ -204,6 +205,8 @@ private:
         if (!result.address)
             complain(result.error);
         options.source = result.address;
+        if (options.source)
+            options.source->isFollowed = parser.isSet(QStringLiteral("follow"));
     }
 
     void checkTogether()
@@ -217,6 +220,9 @@ private:
         if (options.source && options.definitions.isEmpty())
             complain(tr("Messages cannot be read without their definitions: name a MAVLink dialect "
                         "or Protocol Buffers files with --definitions FILE."));
+        const bool isFile = options.source && options.source->kind == SourceAddress::Kind::File;
+        if (parser.isSet(QStringLiteral("follow")) && !isFile)
+            complain(tr("--follow goes with a source that is a file."));
         const bool isProgram
             = options.source && options.source->kind == SourceAddress::Kind::Program;
         if (options.restartsProgram && (!isProgram || reports))

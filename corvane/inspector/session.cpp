@@ -3,15 +3,19 @@
 #include "bytesource.h"
 #include "decodedmessage.h"
 #include "descriptions.h"
+#include "fileindex.h"
 #include "mavlinkformat.h"
 #include "messageinfo.h"
 #include "overlayloader.h"
+#include "playback.h"
 #include "protobufformat.h"
 #include "reconnector.h"
 #include "streamdecoder.h"
 #include "streampump.h"
+#include "streamscanner.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -37,6 +41,14 @@ bool isProtobuf(const QString &file)
 {
     return file.endsWith(QLatin1String(".proto")) || file.endsWith(QLatin1String(".desc"))
            || file.endsWith(QLatin1String(".pb"));
+}
+
+/** As much of a file as tells its framing. */
+QByteArray headOf(const QString &path)
+{
+    constexpr qint64 enoughBytes = 64 * 1024;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(enoughBytes) : QByteArray();
 }
 
 } // namespace
@@ -125,12 +137,15 @@ void Session::start(const Options &newOptions)
     options = newOptions;
     if (!options.source)
         return;
+    close();
     source = createSource(*options.source);
     decoder = createDecoder(*reception);
-    const bool atOnce = !options.opensWindow() || !options.speed;
-    if (!atOnce)
+    if (options.speed)
         clock.setSpeed(*options.speed);
-    pump = std::make_unique<StreamPump>(*source, *decoder, atOnce ? nullptr : &clock);
+    else
+        clock.setAsFastAsPossible();
+    pump
+        = std::make_unique<StreamPump>(*source, *decoder, options.opensWindow() ? &clock : nullptr);
     if (isOpenedAgain(options)) {
         keepOpen();
     } else {
@@ -148,6 +163,37 @@ void Session::start(const Options &newOptions)
     }
     connect(pump.get(), &StreamPump::chunkRead, &recorder, &Recorder::write);
     pump->start();
+    makePlayback();
+}
+
+/** Each part before those that it uses. */
+void Session::close()
+{
+    playback.reset();
+    index.reset();
+    reconnector.reset();
+    pump.reset();
+    decoder.reset();
+    source.reset();
+    clock = ReplayClock();
+    reception->noteDiscontinuity();
+}
+
+void Session::makePlayback()
+{
+    // What is no regular file has no size, and no places to go to.
+    auto scanner = options.opensWindow() && source->getSize()
+                       ? format->makeScanner(headOf(options.source->text), framing)
+                       : nullptr;
+    if (scanner != nullptr) {
+        index = std::make_unique<FileIndex>();
+        connect(index.get(), &FileIndex::failed, this,
+                [this](const QString &message) { addEvent(CorvaneEvent::Other, message); });
+        playback = std::make_unique<Playback>(
+            Playback::Parts{*pump, *source, *decoder, *reception, clock, *index});
+        index->start(options.source->text, std::move(scanner));
+    }
+    Q_EMIT playbackChanged();
 }
 
 void Session::keepOpen()
@@ -183,6 +229,8 @@ void Session::stop()
 {
     if (reconnector)
         reconnector->stop();
+    if (index)
+        index->cancel();
     if (pump)
         pump->stop();
 }

@@ -15,9 +15,11 @@ class MessageNeedManager;
 namespace corvane {
 
 class ByteSource;
+class FileIndex;
+class Playback;
+class Reconnector;
 class StreamDecoder;
 class StreamFormat;
-class Reconnector;
 class StreamPump;
 
 /** One source that is watched: its definitions, its bytes, and what was received from it. */
@@ -56,6 +58,9 @@ public:
     /** A frame reader that reports to \a receiver. */
     std::unique_ptr<StreamDecoder> createDecoder(Reception &receiver) const;
 
+    /** The controls of a file that is watched in a window; null for other sources. */
+    Playback *getPlayback() { return playback.get(); }
+
     /** The source's name for people; empty without a source. */
     QString getSourceName() const;
     /** Datagrams that the system dropped, where it tells. */
@@ -66,6 +71,8 @@ Q_SIGNALS:
     void finished();
     /** The source could not be opened, or broke; \a message says what, where and what to do. */
     void failed(const QString &message);
+    /** start() has made other controls, or none. */
+    void playbackChanged();
     /**
      * How it stands with a live source that is watched in a window, in words: it is opened again
      * when it goes away, and so neither finishes nor fails.
@@ -77,7 +84,9 @@ private:
     QString chooseFormat(const Options &options);
     QString chooseFraming(const Options &options);
     void needAllTypes();
+    void close();
     void keepOpen();
+    void makePlayback();
     void addEvent(CorvaneEvent::Type type, const QString &text);
 
     std::unique_ptr<StreamFormat> format;
@@ -91,6 +100,8 @@ private:
     std::unique_ptr<StreamDecoder> decoder;
     std::unique_ptr<StreamPump> pump;
     std::unique_ptr<Reconnector> reconnector; ///< Null for a source that is opened once.
+    std::unique_ptr<FileIndex> index;
+    std::unique_ptr<Playback> playback;
 };
 
 } // namespace corvane

@@ -4,6 +4,7 @@
 #include "loaderror.h"
 #include "senderstatistics.h"
 
+#include <QByteArrayView>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -16,6 +17,7 @@ namespace corvane {
 
 class Reception;
 class StreamDecoder;
+class StreamScanner;
 
 /** A message format as whoever opens a stream sees it: definitions in, a frame reader out. */
 class CORVANEFRAMEWORK_EXPORT StreamFormat
@@ -52,6 +54,12 @@ public:
      */
     virtual std::unique_ptr<StreamDecoder> makeDecoder(Reception &reception,
                                                        const QString &framing) const = 0;
+    /**
+     * Finds places in a recording that begins with \a head, of which 64 KiB are enough; null where
+     * the format cannot. \a framing: as above.
+     */
+    virtual std::unique_ptr<StreamScanner> makeScanner(QByteArrayView head,
+                                                       const QString &framing) const;
 };
 
 } // namespace corvane

@@ -44,6 +44,21 @@ qint64 ByteSource::read(char *data, qint64 maximum)
     return endOfBytes;
 }
 
+bool ByteSource::seek(qint64 offset)
+{
+    if (!seekDevice(offset))
+        return false;
+    atEnd = false;
+    awaited = false;
+    errorMessage.clear();
+    return true;
+}
+
+bool ByteSource::seekDevice(qint64)
+{
+    return false;
+}
+
 bool ByteSource::isLive() const
 {
     return true;

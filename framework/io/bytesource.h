@@ -56,6 +56,12 @@ public:
      */
     qint64 read(char *data, qint64 maximum);
 
+    /**
+     * Goes on reading at \a offset of a regular file, also after read() has given -1. Returns false
+     * and does nothing where that is impossible: for other sources and before open().
+     */
+    bool seek(qint64 offset);
+
     /** Whether read() has given -1, or the source is not open. */
     bool isAtEnd() const { return atEnd; }
 
@@ -98,6 +104,9 @@ protected:
     virtual void closeDevice() = 0;
     /** As read(); the result -1 is a failure if it comes from failRead(). */
     virtual qint64 readDevice(char *data, qint64 maximum) = 0;
+
+    /** As seek(). */
+    virtual bool seekDevice(qint64 offset);
 
     void reportOpened();
     void reportOpenFailure(const QString &message);

@@ -10,6 +10,12 @@
 
 namespace corvane {
 
+namespace {
+
+constexpr int growthIntervalMs = 100;
+
+} // namespace
+
 FdSource::FdSource(int descriptor, const QString &name, QObject *parent)
     : ByteSource(parent)
     , name(name)
@@ -17,6 +23,9 @@ FdSource::FdSource(int descriptor, const QString &name, QObject *parent)
     , reader(this)
 {
     connect(&reader, &DescriptorReader::readyRead, this, &FdSource::reportReadable);
+    growthTimer.setSingleShot(true);
+    growthTimer.setInterval(growthIntervalMs);
+    connect(&growthTimer, &QTimer::timeout, this, &FdSource::reportReadable);
 }
 
 FdSource::FdSource(const QString &name, QObject *parent)
@@ -86,15 +95,33 @@ void FdSource::openDevice()
 
 void FdSource::closeDevice()
 {
+    growthTimer.stop();
     reader.close();
+}
+
+bool FdSource::seekDevice(qint64 offset)
+{
+    return offset >= 0 && regularFile && reader.isOpen()
+           && ::lseek(reader.getDescriptor(), offset, SEEK_SET) == offset;
 }
 
 qint64 FdSource::readDevice(char *data, qint64 maximum)
 {
     const qint64 count = reader.read(data, maximum);
+    if (count == DescriptorReader::End && following && regularFile)
+        return awaitGrowth();
     if (count != DescriptorReader::Error)
         return count == DescriptorReader::End ? endOfBytes : count;
     return failRead(tr("Reading %1 failed: %2.").arg(name, getSystemErrorText(errno)));
+}
+
+qint64 FdSource::awaitGrowth()
+{
+    if (getSize() < getPosition())
+        return failRead(
+            tr("%1 has become shorter, so it is another recording now. Open it again.").arg(name));
+    growthTimer.start();
+    return 0;
 }
 
 } // namespace corvane

@@ -3,13 +3,16 @@
 #include "bytesource.h"
 #include "descriptorreader.h"
 
+#include <QTimer>
+
 namespace corvane {
 
 /**
  * Reads a file descriptor of the system: pipe, terminal, socket, or regular file.
  *
  * A regular file is read to the end that it has when that is reached, so one that grows in the
- * meantime is read to its present end.
+ * meantime is read to its present end; one that is followed has no end, and is looked at ten times
+ * a second for more.
  */
 class CORVANEFRAMEWORK_EXPORT FdSource : public ByteSource
 {
@@ -19,6 +22,9 @@ public:
     /** Takes \a descriptor over, and so can be opened once. \a name: text for people. */
     FdSource(int descriptor, const QString &name, QObject *parent = nullptr);
     ~FdSource() override;
+
+    /** Whether a regular file is read on when it grows. To be set before open(). */
+    void setFollowing(bool newFollowing) { following = newFollowing; }
 
     QString getName() const override;
     bool isLive() const override;
@@ -36,12 +42,17 @@ protected:
     void openDevice() override;
     void closeDevice() override;
     qint64 readDevice(char *data, qint64 maximum) override;
+    bool seekDevice(qint64 offset) override;
 
 private:
+    qint64 awaitGrowth();
+
     QString name;
     FileDescriptor givenDescriptor;
     DescriptorReader reader;
     bool regularFile = false;
+    bool following = false;
+    QTimer growthTimer; ///< Runs out when a followed file is looked at again.
 };
 
 } // namespace corvane

@@ -225,7 +225,9 @@ std::unique_ptr<ByteSource> createSource(const SourceAddress &address)
     case Kind::File:
         break;
     }
-    return std::make_unique<FileSource>(address.text);
+    auto file = std::make_unique<FileSource>(address.text);
+    file->setFollowing(address.isFollowed);
+    return file;
 }
 
 } // namespace corvane

@@ -47,6 +47,7 @@ struct CORVANEFRAMEWORK_EXPORT SourceAddress
     QString device;
     qint32 baud = defaultBaud;
     QString command;
+    bool isFollowed = false; ///< Whether a file is read on when it grows; no part of the text.
 
     static SourceAddressResult parse(const QString &text);
 };

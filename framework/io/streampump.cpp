@@ -7,7 +7,7 @@
 #include <QDeadlineTimer>
 
 #include <algorithm>
-#include <optional>
+#include <utility>
 
 namespace corvane {
 
@@ -51,6 +51,8 @@ void StreamPump::start()
 {
     bytesRead = 0;
     state = State::Reading;
+    seekOffset.reset();
+    goal = nullptr;
     source.open();
 }
 
@@ -58,7 +60,37 @@ void StreamPump::stop()
 {
     state = State::Stopped;
     timer.stop();
+    goal = nullptr;
     source.close();
+}
+
+bool StreamPump::seek(qint64 offset)
+{
+    if (!source.getSize())
+        return false;
+    seekOffset = offset;
+    if (state == State::Stopped)
+        state = State::Reading;
+    // A frame reader cannot begin anew while it is reading.
+    if (!insideSlice)
+        applySeek();
+    schedule();
+    return true;
+}
+
+void StreamPump::applySeek()
+{
+    const qint64 offset = *std::exchange(seekOffset, std::nullopt);
+    if (!source.seek(offset))
+        return;
+    decoder.reset(static_cast<quint64>(offset));
+    state = State::Reading;
+}
+
+void StreamPump::runUntil(std::function<bool()> newGoal)
+{
+    goal = std::move(newGoal);
+    schedule();
 }
 
 void StreamPump::setPaused(bool newPaused)
@@ -70,15 +102,13 @@ void StreamPump::setPaused(bool newPaused)
         clock->pause();
     if (clock && !paused)
         clock->resume();
-    if (paused)
-        timer.stop();
-    else
-        schedule();
+    timer.stop();
+    schedule();
 }
 
 void StreamPump::schedule()
 {
-    if (state != State::Stopped && !paused)
+    if (isRunning())
         timer.start(0ms);
 }
 
@@ -90,7 +120,7 @@ void StreamPump::runSlice()
     insideSlice = true;
     const QDeadlineTimer deadline(slice, Qt::PreciseTimer);
     Outcome outcome = Outcome::Continue;
-    while (outcome == Outcome::Continue && state != State::Stopped && !paused) {
+    while (outcome == Outcome::Continue && isRunning()) {
         outcome = advance();
         if (deadline.hasExpired())
             break;
@@ -102,7 +132,13 @@ void StreamPump::runSlice()
 
 StreamPump::Outcome StreamPump::advance()
 {
-    return state == State::Reading ? fetch() : decode();
+    if (seekOffset)
+        applySeek();
+    if (!goal || !goal())
+        return state == State::Reading ? fetch() : decode();
+    goal = nullptr;
+    Q_EMIT goalReached();
+    return Outcome::Continue;
 }
 
 StreamPump::Outcome StreamPump::fetch()
@@ -128,7 +164,7 @@ StreamPump::Outcome StreamPump::fetch()
 
 StreamPump::Outcome StreamPump::decode()
 {
-    if (clock && waitUntilDue())
+    if (clock && !goal && waitUntilDue())
         return Outcome::Wait;
     if (decoder.step() == StreamDecoder::Step::Advanced || state == State::Stopped)
         return Outcome::Continue;
@@ -156,6 +192,7 @@ bool StreamPump::waitUntilDue()
 void StreamPump::complete()
 {
     state = State::Stopped;
+    goal = nullptr;
     if (source.getErrorMessage().isEmpty())
         Q_EMIT finished();
     else

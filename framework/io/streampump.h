@@ -8,6 +8,8 @@
 #include <QTimer>
 
 #include <chrono>
+#include <functional>
+#include <optional>
 
 namespace corvane {
 
@@ -54,6 +56,20 @@ public:
 
     bool isPaused() const { return paused; }
 
+    /**
+     * Goes on at \a offset of a regular file, also when it has come to its end; the frame reader
+     * begins anew there. Returns false and does nothing where that is impossible.
+     */
+    bool seek(qint64 offset);
+    /**
+     * Reads on as fast as possible, whether paused or not, until \a goal, which is asked before
+     * each step, is true. Takes the place of an earlier goal. The end of the source ends it, too.
+     */
+    void runUntil(std::function<bool()> newGoal);
+
+    /** Whether a goal of runUntil() is still to be reached. */
+    bool hasGoal() const { return goal != nullptr; }
+
     /** Since start(). */
     quint64 getBytesRead() const { return bytesRead; }
 
@@ -61,6 +77,8 @@ public:
     void setSlice(std::chrono::milliseconds newSlice) { slice = newSlice; }
 
 Q_SIGNALS:
+    /** What runUntil() was called for is true now. */
+    void goalReached();
     /** Bytes exactly as they were read, before they are decoded; valid within the signal only. */
     void chunkRead(QByteArrayView bytes);
     /** Emitted once, after the last frame of a source that came to its regular end. */
@@ -82,7 +100,10 @@ private:
         Wait ///< For the timer or the source.
     };
 
+    bool isRunning() const { return state != State::Stopped && (!paused || goal); }
+
     void schedule();
+    void applySeek();
     void runSlice();
     Outcome advance();
     Outcome fetch();
@@ -99,6 +120,8 @@ private:
     State state = State::Stopped;
     bool paused = false;
     bool insideSlice = false;
+    std::optional<qint64> seekOffset; ///< Of a seek() within a slice.
+    std::function<bool()> goal; ///< Empty without one.
     quint64 bytesRead = 0;
 };
 

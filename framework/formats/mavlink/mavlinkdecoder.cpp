@@ -314,6 +314,16 @@ std::optional<qint64> MavlinkDecoder::getNextTimeUs() const
     return time != DecodedMessage::unknownTime ? std::optional(time) : std::nullopt;
 }
 
+MavlinkFraming MavlinkDecoder::findFraming(const MavlinkFormat &format, QByteArrayView head)
+{
+    Reception unused(format.getInfo(), mavlinkSenderName, true);
+    MavlinkDecoder decoder(format, unused);
+    decoder.append(head, std::nullopt);
+    decoder.finish();
+    decoder.decideFraming();
+    return decoder.framing;
+}
+
 bool MavlinkDecoder::decideFraming()
 {
     for (; examined < std::min(buffer.size(), framingHorizon); ++examined) {

@@ -52,6 +52,9 @@ public:
 
     MavlinkFraming getFraming() const { return framing; }
 
+    /** The framing of a recording that begins with \a head, of which 64 KiB are enough. */
+    static MavlinkFraming findFraming(const MavlinkFormat &format, QByteArrayView head);
+
 private:
     /** What stands at some place of the buffer. */
     enum class Outlook {

@@ -6,6 +6,7 @@
 #include "mavlinkdecoder.h"
 #include "mavlinkdefinitionreader.h"
 #include "mavlinkmessage.h"
+#include "mavlinkscanner.h"
 #include "messageinfo.h"
 
 #include <QCoreApplication>
@@ -77,8 +78,22 @@ SenderTable::Namer MavlinkFormat::getSenderNamer() const
 std::unique_ptr<StreamDecoder> MavlinkFormat::makeDecoder(Reception &reception,
                                                           const QString &framing) const
 {
-    const auto index = std::max<qsizetype>(0, info.getData()->framings.indexOf(framing));
-    return std::make_unique<MavlinkDecoder>(*this, reception, static_cast<MavlinkFraming>(index));
+    return std::make_unique<MavlinkDecoder>(*this, reception, framingOf(framing));
+}
+
+std::unique_ptr<StreamScanner> MavlinkFormat::makeScanner(QByteArrayView head,
+                                                          const QString &framing) const
+{
+    const MavlinkFraming named = framingOf(framing);
+    return std::make_unique<MavlinkScanner>(*this, named == MavlinkFraming::Automatic
+                                                       ? MavlinkDecoder::findFraming(*this, head)
+                                                       : named);
+}
+
+MavlinkFraming MavlinkFormat::framingOf(const QString &name) const
+{
+    const auto index = std::max<qsizetype>(0, info.getData()->framings.indexOf(name));
+    return static_cast<MavlinkFraming>(index);
 }
 
 QList<LoadError> MavlinkFormat::findConflicts(const MavlinkDefinitions &definitions) const
@@ -132,6 +147,15 @@ void MavlinkFormat::addMessage(const MavlinkMessageDefinition &definition)
         lowTypes[definition.id] = index;
     else
         highTypes.insert(definition.id, index);
+}
+
+QHash<quint32, quint8> MavlinkFormat::getChecksumExtras() const
+{
+    QHash<quint32, quint8> extras;
+    for (const MavlinkMessageType &type : types)
+        if (type.info != nullptr)
+            extras.insert(type.info->getData()->number, type.checksumExtra);
+    return extras;
 }
 
 } // namespace corvane

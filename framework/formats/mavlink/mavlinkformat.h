@@ -13,6 +13,8 @@
 
 namespace corvane {
 
+enum class MavlinkFraming;
+
 /** What the frame reader has to know of a message type. */
 struct MavlinkMessageType
 {
@@ -50,6 +52,8 @@ public:
     /** "auto", "raw" or "tlog". */
     std::unique_ptr<StreamDecoder> makeDecoder(Reception &reception,
                                                const QString &framing) const override;
+    std::unique_ptr<StreamScanner> makeScanner(QByteArrayView head,
+                                               const QString &framing) const override;
 
     /** The type with that id, or null. */
     const MavlinkMessageType *findType(quint32 id) const
@@ -58,7 +62,11 @@ public:
         return index == 0 ? nullptr : &types[index];
     }
 
+    /** The byte that a type's checksum takes, by message id. */
+    QHash<quint32, quint8> getChecksumExtras() const;
+
 private:
+    MavlinkFraming framingOf(const QString &name) const;
     QList<LoadError> findConflicts(const MavlinkDefinitions &definitions) const;
     void addEnumerations(const MavlinkDefinitions &definitions);
     void addMessage(const MavlinkMessageDefinition &definition);

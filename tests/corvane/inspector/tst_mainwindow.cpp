@@ -17,6 +17,7 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTemporaryDir>
+#include <QToolBar>
 #include <QTreeView>
 
 using namespace corvane;
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void plot_isAPanelOrSaysThatItIsMissing();
     void plot_isPausedAndRemembered();
     void exportedStatistics_areToldAboveTheViews();
+    void transportBar_isThereForRecordingsOnly();
     void layout_isRememberedByTheSettings();
     void layout_ofRandomBytes_startsWithTheDefault();
 };
@@ -248,6 +250,17 @@ void tst_mainwindow::exportedStatistics_areToldAboveTheViews()
     QVERIFY(shown.says(QStringLiteral("Exported to \"%1\".").arg(file)));
     QVERIFY(shown.window->findChild<ExportBar *>()->isVisible());
     QVERIFY(QFileInfo(file).size() > 0);
+}
+
+void tst_mainwindow::transportBar_isThereForRecordingsOnly()
+{
+    Shown shown(1.0);
+    const auto *bar = shown.window->findChild<QToolBar *>(QStringLiteral("transport"));
+    QVERIFY(bar->isVisible());
+    Options live = shown.options;
+    live.source = SourceAddress::parse(QStringLiteral("udp://127.0.0.1:0")).address;
+    shown.session.start(live);
+    QVERIFY(!bar->isVisible());
 }
 
 void tst_mainwindow::layout_isRememberedByTheSettings()

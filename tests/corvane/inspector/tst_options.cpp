@@ -54,6 +54,8 @@ void tst_options::parse_everyOption_isTaken()
     QCOMPARE(options.durationSeconds, std::optional(1.5));
     QCOMPARE(options.source->text, QStringLiteral("c.tlog"));
 
+    QVERIFY(!options.source->isFollowed);
+    QVERIFY(parse(QStringLiteral("--definitions a.xml --follow b")).source->isFollowed);
     QVERIFY(!options.restartsProgram);
     QVERIFY(parse(QStringLiteral("--definitions a.xml --restart exec:b")).restartsProgram);
     const Options feed = parse(QStringLiteral("--definitions a.proto --root a.Root --import-path x "
@@ -146,6 +148,8 @@ void tst_options::parse_mistake_isExplained_data()
                                    << "seconds";
     QTest::newRow("duration alone") << "--duration 3"
                                     << "--duration goes with --report and --export";
+    QTest::newRow("follow of no file") << "--definitions a --follow udp://:1"
+                                       << "--follow goes with a source that is a file";
     QTest::newRow("restart of no program") << "--definitions a --restart udp://:1"
                                            << "--restart goes with a source exec:COMMAND";
     QTest::newRow("restart without window") << "--definitions a --restart --report text exec:b"
@@ -191,9 +195,10 @@ void tst_options::getHelpText_namesEveryOption()
 {
     const QString help = Options::getHelpText();
     for (const char *name :
-         {"--definitions", "--root", "--import-path", "--overlay", "--framing", "--speed",
-          "--report", "--duration", "--export", "--select", "--output", "--raw", "--screenshot",
-          "--after", "--help", "--version", "SOURCE", "tcp-listen://", "exec:COMMAND"})
+         {"--definitions", "--root",        "--import-path", "--overlay", "--framing", "--speed",
+          "--report",      "--duration",    "--export",      "--select",  "--output",  "--raw",
+          "--follow",      "--restart",     "--screenshot",  "--after",   "--help",    "--version",
+          "SOURCE",        "tcp-listen://", "exec:COMMAND"})
         QVERIFY2(help.contains(QLatin1String(name)), name);
 }
 

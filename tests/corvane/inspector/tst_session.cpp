@@ -1,5 +1,7 @@
+#include "fileindex.h"
 #include "message.h"
 #include "messageinfo.h"
+#include "playback.h"
 #include "session.h"
 #include "testcase.h"
 
@@ -32,6 +34,9 @@ private Q_SLOTS:
     void reconnect_beginsAfreshAndIsInTheLog();
     void reconnect_notWithoutWindow();
     void program_isStartedAgainIfAskedFor();
+    void playback_isThereForFilesInAWindow();
+    void start_again_forgetsTheFormerSource();
+    void followedFile_isWatchedWhileItGrows();
     void recording_hasTheBytesOfTheSource();
     void recording_toTheSourceItself_isRefused();
     void recording_failure_isInTheLog();
@@ -298,6 +303,92 @@ void tst_session::program_isStartedAgainIfAskedFor()
     QCOMPARE(again.getReception().getTotals().frames, 2 * 1737U);
     QCOMPARE(never.size(), 0);
     again.stop();
+}
+
+void tst_session::playback_isThereForFilesInAWindow()
+{
+    Options options = recordingOptions();
+    options.speed = 2.0;
+    Session session;
+    session.load(options);
+    QSignalSpy changed(&session, &Session::playbackChanged);
+    QVERIFY(!session.getPlayback());
+    session.start(options);
+    QCOMPARE(changed.size(), 1);
+    QVERIFY(session.getPlayback());
+    QCOMPARE(session.getPlayback()->getSpeed(), std::optional(2.0));
+    QTRY_VERIFY(session.getPlayback()->getIndex().getLastTimeUs());
+    session.stop();
+
+    options.speed.reset();
+    Session fast;
+    fast.load(options);
+    fast.start(options);
+    QVERIFY(!fast.getPlayback()->getSpeed());
+
+    options.report = Options::Report::Text;
+    Session report;
+    report.load(options);
+    report.start(options);
+    QVERIFY(!report.getPlayback());
+
+    options = recordingOptions();
+    options.source->text = QStringLiteral("missing");
+    Session missing;
+    missing.load(options);
+    missing.start(options);
+    QVERIFY(!missing.getPlayback());
+}
+
+void tst_session::start_again_forgetsTheFormerSource()
+{
+    Options refused = recordingOptions();
+    refused.source = SourceAddress::parse(QStringLiteral("tcp://127.0.0.1:1")).address;
+    Session session;
+    session.load(refused);
+    QSignalSpy states(&session, &Session::stateChanged);
+    session.start(refused);
+    QTRY_VERIFY(!states.isEmpty());
+
+    session.start(recordingOptions());
+    session.getPlayback()->pause();
+    Options fast = recordingOptions();
+    fast.speed.reset();
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(fast);
+    QTRY_COMPARE(finished.size(), 1);
+    states.clear();
+    QTest::qWait(600);
+    QCOMPARE(states.size(), 0);
+}
+
+void tst_session::followedFile_isWatchedWhileItGrows()
+{
+    const QTemporaryDir folder;
+    Options options = recordingOptions();
+    const QByteArray recording = readFile(options.source->text);
+    QFile growing(folder.filePath(QStringLiteral("growing.tlog")));
+    QVERIFY(growing.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    const qsizetype cut = 20'003;
+    growing.write(recording.first(cut));
+    options.source->text = growing.fileName();
+    options.source->isFollowed = true;
+    options.speed.reset();
+    Session session;
+    session.load(options);
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    const Reception::Totals &totals = session.getReception().getTotals();
+    QTRY_COMPARE(totals.bytes, quint64(cut));
+    QVERIFY(session.getPlayback()->isPlaying());
+    growing.write(recording.sliced(cut));
+    QTRY_COMPARE(totals.frames, 1737U);
+    QCOMPARE(totals.skippedBytes, 0U);
+    QTRY_COMPARE(session.getPlayback()->getIndex().getIndexedBytes(), recording.size());
+    QCOMPARE(session.getPlayback()->getPosition(), recording.size());
+    QCOMPARE(finished.size(), 0);
+    session.getPlayback()->seek(0);
+    QTRY_COMPARE(totals.frames, 2 * 1737U);
 }
 
 void tst_session::recording_hasTheBytesOfTheSource()

@@ -52,6 +52,11 @@ private Q_SLOTS:
     void open_withoutFile_fails();
     void open_withoutPermission_fails();
     void open_ofNamedPipe_waitsForAWriter();
+    void followedFile_hasNoEnd();
+    void followedFile_thatBecomesShorter_fails();
+    void seek_goesAnywhere();
+    void seek_afterTheEnd();
+    void seek_isRefusedElsewhere();
 
 private:
     QString write(const QString &name, const QByteArray &bytes, bool append = false)
@@ -194,6 +199,83 @@ void TestFileSource::open_ofNamedPipe_waitsForAWriter()
     QTRY_COMPARE(reader.bytes, "hello");
     ::close(writer);
     QTRY_COMPARE(reader.events, QStringList({"opened", "finished"}));
+}
+
+void TestFileSource::followedFile_hasNoEnd()
+{
+    const QString path = write("grows", "one ");
+    FileSource source(path);
+    source.setFollowing(true);
+    test::SourceReader reader(source);
+    source.open();
+    QTRY_COMPARE(reader.bytes, QByteArray("one "));
+    QTest::qWait(50);
+    write("grows", "two ", true);
+    QTRY_COMPARE(reader.bytes, QByteArray("one two "));
+    write("grows", "three", true);
+    QTRY_COMPARE(reader.bytes, QByteArray("one two three"));
+    QCOMPARE(reader.events, QStringList({"opened"}));
+    source.close();
+    write("grows", "four", true);
+    QTest::qWait(150);
+    QCOMPARE(reader.bytes, QByteArray("one two three"));
+}
+
+void TestFileSource::followedFile_thatBecomesShorter_fails()
+{
+    const QString path = write("shrinks", "a long text");
+    FileSource source(path);
+    source.setFollowing(true);
+    test::SourceReader reader(source);
+    source.open();
+    QTRY_COMPARE(reader.bytes, QByteArray("a long text"));
+    write("shrinks", "short");
+    QTRY_COMPARE(reader.events, QStringList({"opened", "failed"}));
+    QVERIFY(reader.failure.contains("shorter"));
+}
+
+void TestFileSource::seek_goesAnywhere()
+{
+    FileSource source(write("seek", "0123456789"));
+    QVERIFY(!source.seek(1));
+    source.open();
+    char data[4];
+    QVERIFY(source.seek(6));
+    QCOMPARE(source.getPosition(), std::optional<qint64>(6));
+    QCOMPARE(source.read(data, 3), 3);
+    QCOMPARE(QByteArray(data, 3), QByteArray("678"));
+    QVERIFY(source.seek(0));
+    QCOMPARE(source.read(data, 3), 3);
+    QCOMPARE(QByteArray(data, 3), QByteArray("012"));
+    QVERIFY(source.seek(100));
+    QCOMPARE(source.read(data, 3), -1);
+    QVERIFY(!source.seek(-1));
+}
+
+void TestFileSource::seek_afterTheEnd()
+{
+    FileSource source(write("seek", "0123456789"));
+    test::SourceReader reader(source);
+    source.open();
+    QTRY_COMPARE(reader.events, QStringList({"opened", "finished"}));
+    QVERIFY(source.isAtEnd());
+    QVERIFY(source.seek(8));
+    QVERIFY(!source.isAtEnd());
+    char data[4];
+    QCOMPARE(source.read(data, 4), 2);
+    QCOMPARE(source.read(data, 4), -1);
+    QCOMPARE(reader.events, QStringList({"opened", "finished", "finished"}));
+    source.close();
+    QVERIFY(!source.seek(0));
+}
+
+void TestFileSource::seek_isRefusedElsewhere()
+{
+    const QString path = folder.filePath("seekpipe");
+    QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    FileSource source(path);
+    source.open();
+    QVERIFY(!source.seek(0));
 }
 
 CORVANE_TEST_MAIN(TestFileSource)

@@ -1,0 +1,7 @@
+#include "streamscanner.h"
+
+namespace corvane {
+
+StreamScanner::~StreamScanner() = default;
+
+} // namespace corvane
