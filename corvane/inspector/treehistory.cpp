@@ -49,17 +49,19 @@ TreeHistory::TreeHistory(MessageTreeWidget &tree, const LatestMessages &latest)
 
 void TreeHistory::setShown(bool shown)
 {
+    const int width = tree.fontMetrics().averageCharWidth() * widthInCharacters;
     if (shown) {
-        tree.addColumn(kind,
-                       false); // rows need not be built anew, since it shows none of their texts
+        // The last column takes all room that is left; it gives up some of it.
+        const int last = tree.columnCount() - 1;
+        const int widthOfLast = std::max(tree.columnWidth(last) - width, width);
+        tree.addColumn(kind, false); // rows stay, since none of their texts is shown here
+        tree.setColumnWidth(last, widthOfLast);
     } else {
         auto columns = tree.getColumns();
         columns.removeAll(kind);
         tree.setColumns(columns);
     }
     followColumns();
-    if (shown)
-        tree.setColumnWidth(column, tree.fontMetrics().averageCharWidth() * widthInCharacters);
 }
 
 void TreeHistory::followColumns()
