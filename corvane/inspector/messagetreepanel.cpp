@@ -10,6 +10,7 @@
 #include "messagetreefilter.h"
 #include "messagetreewidget.h"
 #include "messagetreewidgetitem.h"
+#include "treehistory.h"
 
 #include <QCompleter>
 #include <QHBoxLayout>
@@ -79,6 +80,7 @@ MessageTreePanel::MessageTreePanel(const LatestMessages &latest,
     , latest(latest)
     , format(format)
     , tree(new MessageTreeWidget(this))
+    , history(new TreeHistory(*tree, latest))
     , filter(new MessageTreeFilter(this))
     , filterEdit(new QLineEdit(this))
     , symbols(new QStringListModel(this))
@@ -137,6 +139,7 @@ void MessageTreePanel::createFilter()
 void MessageTreePanel::createMenu()
 {
     menu->addActions(tree->getToggleColumnActions());
+    menu->addAction(history->getAction());
     menu->addSeparator();
     const auto addSwitch = [this](const QString &text, bool on, auto receiver, auto slot) {
         QAction *action = menu->addAction(text);
@@ -168,6 +171,7 @@ void MessageTreePanel::restoreSettings(QSettings &settings)
         tree->setColumnWidth(1, fontMetrics().averageCharWidth() * 12);
     }
     tree->loadExpansionState(settings);
+    history->followColumns();
     settings.endGroup();
 }
 

@@ -18,6 +18,7 @@ class QTreeWidgetItem;
 namespace corvane {
 
 class LatestMessages;
+class TreeHistory;
 
 /**
  * The tree of message types with their fields, live: a row for each type as it first arrives, what
@@ -62,6 +63,7 @@ private:
     const LatestMessages &latest;
     const FormatInfo &format;
     MessageTreeWidget *tree; ///< Owned as a child.
+    TreeHistory *history; ///< Owned by the tree.
     MessageTreeFilter *filter; ///< Owned as a child.
     QLineEdit *filterEdit; ///< Owned as a child.
     QStringListModel *symbols; ///< Owned as a child. What the filter can be set to.

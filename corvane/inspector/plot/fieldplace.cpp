@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <limits>
 
 namespace corvane {
 
@@ -20,6 +21,20 @@ constexpr QLatin1Char dot('.');
 bool hasElement(const FieldInfo *field, unsigned int index)
 {
     return index == 0 || field->isRepeated();
+}
+
+// The largest integers became the next power of two when they became a sample.
+
+qint64 signedOf(double number)
+{
+    constexpr double limit = 9223372036854775808.0; // 2 to the 63rd
+    return number < limit ? static_cast<qint64>(number) : std::numeric_limits<qint64>::max();
+}
+
+quint64 unsignedOf(double number)
+{
+    constexpr double limit = 18446744073709551616.0; // 2 to the 64th
+    return number < limit ? static_cast<quint64>(number) : std::numeric_limits<quint64>::max();
 }
 
 } // namespace
@@ -127,6 +142,25 @@ bool FieldPlace::isConfidential() const
 {
     return std::any_of(steps.begin(), steps.end(),
                        [](const Step &step) { return step.field->isConfidential(); });
+}
+
+QString FieldPlace::textOf(double number) const
+{
+    const FieldType &kind = getField()->getType();
+    const auto asValue = [&] {
+        switch (kind.getCode()) {
+        case FieldType::SignedInteger:
+            return FieldValue::fromSigned(signedOf(number));
+        case FieldType::Boolean:
+            return FieldValue::fromBoolean(number != 0);
+        case FieldType::UnsignedInteger:
+            return FieldValue::fromUnsigned(unsignedOf(number));
+        default:
+            return kind.getSizeBits() == 32 ? FieldValue::fromFloat(static_cast<float>(number))
+                                            : FieldValue::fromDouble(number);
+        }
+    };
+    return getField()->getInterpretedString(asValue(), true);
 }
 
 FieldValue FieldPlace::read(const Message *message) const

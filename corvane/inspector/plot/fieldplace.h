@@ -40,6 +40,8 @@ public:
     /** Whether the values are truth values or have names, so that nothing lies between two. */
     bool isStepped() const;
     bool isConfidential() const;
+    /** \a number, which was a value of a numeric place, as people read it. */
+    QString textOf(double number) const;
     /** An invalid value where \a message, which is one of getType(), has none at the place. */
     FieldValue read(const Message *message) const;
 

@@ -41,6 +41,7 @@ PlotLegend::PlotLegend(const PlotSeriesList &series, QWidget *parent)
     setTabKeyNavigation(false);
     setItemDelegateForColumn(NameColumn, new PathDelegate(this));
     setShowGrid(false);
+    setWordWrap(false); // or a number would be cut at its decimal point
     setMinimumHeight(fontMetrics().height() * 4);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);

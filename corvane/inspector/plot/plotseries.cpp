@@ -5,7 +5,6 @@
 #include "fieldinfo.h"
 
 #include <QColor>
-#include <QLocale>
 
 #include <array>
 #include <cmath>
@@ -92,9 +91,9 @@ QString PlotSeries::getValueText(qint64 timeUs) const
     const std::optional<Sample> sample = store.getAt(timeUs);
     if (!sample || isHidden())
         return {};
-    return sample->isGap()
-               ? tr("none")
-               : QLocale::c().toString(sample->value, 'g', QLocale::FloatingPointShortest);
+    if (sample->isGap())
+        return tr("none");
+    return place ? place->textOf(sample->value) : QString::number(sample->value);
 }
 
 } // namespace corvane

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void find_withoutOneField_isNothing_data();
     void find_withoutOneField_isNothing();
     void kinds_areKnown();
+    void numbers_areReadAsTheFieldsValues();
     void sharedField_belongsToTheNamedType();
 };
 
@@ -30,6 +31,8 @@ const char types[] = R"(
       samples int16[]
       mode    uint8 {Manual=0, Auto=2}
       note    text
+      big     uint64
+      wide    int64
       sats    Satellite[]
       best    Satellite
       "odd.name" int8
@@ -119,6 +122,22 @@ void tst_fieldplace::kinds_areKnown()
     QVERIFY(!place("Demo.Position.sats").isNumeric());
     QVERIFY(!place("Demo.Position.best.place.x").isConfidential());
     QVERIFY(place("Demo.Position.best.place.secret").isConfidential());
+}
+
+void tst_fieldplace::numbers_areReadAsTheFieldsValues()
+{
+    const TestFormat format(QStringLiteral("Demo"), QLatin1String(types));
+    const auto text = [](const char *path, double number) {
+        return FieldPlace::find(path).value().textOf(number);
+    };
+    QCOMPARE(text("Demo.Position.height", 0.1), "0.1");
+    QCOMPARE(text("Demo.Position.best.levels", static_cast<double>(0.1F)), "0.1");
+    QCOMPARE(text("Demo.Position.mode", 2), "Auto");
+    QCOMPARE(text("Demo.Position.status.armed", 1), "true");
+    QCOMPARE(text("Demo.Position.samples", -3), "-3");
+    QCOMPARE(text("Demo.Position.big", 0x1p64), "18446744073709551615");
+    QCOMPARE(text("Demo.Position.wide", 0x1p63), "9223372036854775807");
+    QCOMPARE(text("Demo.Position.wide", -0x1p63), "-9223372036854775808");
 }
 
 void tst_fieldplace::sharedField_belongsToTheNamedType()

@@ -100,8 +100,8 @@ double luminanceOf(const QColor &color)
 
 double contrast(const QColor &a, const QColor &b)
 {
-    const auto [less, more] = std::minmax(luminanceOf(a), luminanceOf(b));
-    return (more + 0.05) / (less + 0.05);
+    const double ratio = (luminanceOf(a) + 0.05) / (luminanceOf(b) + 0.05);
+    return std::max(ratio, 1 / ratio);
 }
 
 } // namespace
