@@ -11,7 +11,7 @@ void MessageStatisticsData::count(const FrameHeader &frame)
     if (frame.timeUs == Rhythm::noTime) {
         ++withUnknownTime;
         if (sender != nullptr)
-            sender->rhythm.interrupt();
+            sender->rhythm.addMessageWithoutTime();
     } else if (sender != nullptr) {
         sender->hasOwnClock = frame.hasOwnClock;
         sender->rhythm.addMessage(frame.timeUs, intervals);
