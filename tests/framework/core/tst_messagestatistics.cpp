@@ -18,10 +18,13 @@ constexpr qint64 ms = 1000;
 /** A reception of types A and B. */
 struct Scene
 {
-    void send(const char *type, quint32 sender, qint64 timeUs, bool hasOwnClock = false)
+    void send(const char *type,
+              quint32 sender,
+              qint64 timeUs,
+              std::optional<qint64> ownTimeUs = std::nullopt)
     {
         reception.receiveFrame(
-            {format.type(QLatin1String(type)), 0, sender, sequence++, timeUs, hasOwnClock});
+            {format.type(QLatin1String(type)), 0, sender, sequence++, timeUs, ownTimeUs});
     }
 
     /** Those of the first type that came. */
@@ -216,7 +219,7 @@ void TestMessageStatistics::ownClock_isNotComparedWithOthers()
 {
     Scene scene;
     for (int i = 0; i < 100; ++i)
-        scene.send("A", 1, i * 500 * ms, true); // counts from its own start
+        scene.send("A", 1, noTime, i * 500 * ms); // counts from its own start
     scene.send("B", 1, 1'700'000'000'000 * ms);
     QVERIFY(scene.statistics().isCurrentlyRegular());
 }
