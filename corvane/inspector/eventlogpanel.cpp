@@ -46,14 +46,11 @@ EventLogPanel::EventLogPanel(EventLog &log, QWidget *parent)
 
     connect(filterEdit, &QLineEdit::textChanged, this, &EventLogPanel::setFilter);
     connect(followButton, &QToolButton::clicked, this, &EventLogPanel::followEnd);
-    // The table, which was connected first, has the row already.
-    connect(&log, &EventLog::newEntry, this, [this] {
-        filterRow(table->rowCount() - 1);
-        refreshState();
-    });
+    connect(&log, &EventLog::newEntry, this, &EventLogPanel::filterNewRowsSoon);
     connect(&log, &EventLog::cleared, this, [this] {
         shownRows = 0;
-        refreshState();
+        filteredRows = 0;
+        filterNewRowsSoon();
     });
     setFilter({});
 }
@@ -85,9 +82,25 @@ void EventLogPanel::setFilter(const QString &text)
 {
     filter = text;
     shownRows = 0;
-    table->setUpdatesEnabled(false);
-    for (int row = 0; row < table->rowCount(); ++row)
-        filterRow(row);
+    filteredRows = 0;
+    filterNewRows();
+}
+
+/** Many rows together, since hiding one right behind its insertion takes a look at all rows. */
+void EventLogPanel::filterNewRowsSoon()
+{
+    if (isFilteringPosted)
+        return;
+    isFilteringPosted = true;
+    QMetaObject::invokeMethod(this, &EventLogPanel::filterNewRows, Qt::QueuedConnection);
+}
+
+void EventLogPanel::filterNewRows()
+{
+    isFilteringPosted = false;
+    table->setUpdatesEnabled(false); // else the table looks for the place of each hidden row
+    for (; filteredRows < table->rowCount(); ++filteredRows)
+        filterRow(filteredRows);
     table->setUpdatesEnabled(true);
     refreshState();
 }

@@ -30,6 +30,8 @@ public:
 private:
     void createTable();
     void filterRow(int row);
+    void filterNewRows();
+    void filterNewRowsSoon();
     void followEnd();
     void refreshState();
 
@@ -39,6 +41,8 @@ private:
     QLabel *state; ///< Owned as a child.
     QString filter;
     int shownRows = 0;
+    int filteredRows = 0; ///< So many rows from the top are shown or hidden as they should be.
+    bool isFilteringPosted = false;
     bool following = true;
 };
 

@@ -40,12 +40,10 @@ std::optional<qint64> readOwnTimeUs(const Message *message)
     const MessageInfoData &type = *message->getInfo()->getData();
     if (type.timeField == nullptr || type.timeField->getNumberOfValues(message) == 0)
         return std::nullopt;
-    const FieldValue value = type.timeField->getValue(message, 0);
-    // Hidden or not: the time of a message is no content.
-    const auto bits = value.bitsOfInteger();
-    const double us = (bits ? static_cast<double>(static_cast<qint64>(*bits))
-                            : value.toDouble().value_or(std::nan("")))
-                      * static_cast<double>(type.timeFieldUnitUs);
+    FieldValue value = type.timeField->getValue(message, 0);
+    value.setConfidential(false); // the time of a message is no content
+    const double us
+        = value.toDouble().value_or(std::nan("")) * static_cast<double>(type.timeFieldUnitUs);
     constexpr double exact = 9007199254740992.0; // 2^53: microseconds until the year 2255
     if (!(std::abs(us) < exact))
         return std::nullopt;

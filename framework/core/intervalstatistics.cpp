@@ -7,11 +7,24 @@ namespace corvane {
 
 namespace {
 
-constexpr std::array<qint64, 27> roundValuesMs{
+constexpr std::array<qint64, IntervalStatistics::roundValues> roundValuesMs{
     0,         1,         2,         5,          10,         20,        50,
     100,       200,       500,       1'000,      2'000,      5'000,     10'000,
     20'000,    30'000,    60'000,    120'000,    300'000,    600'000,   1'200'000,
     1'800'000, 3'600'000, 7'200'000, 18'000'000, 36'000'000, 43'200'000};
+
+/** Up to where an interval belongs to each round value but the last: the geometric means. */
+std::array<double, roundValuesMs.size() - 1> computeLimits()
+{
+    std::array<double, roundValuesMs.size() - 1> limits{}; // only equal times are 0 ms
+    for (size_t i = 1; i < limits.size(); ++i)
+        limits[i] = 1000.0
+                    * std::sqrt(static_cast<double>(roundValuesMs[i])
+                                * static_cast<double>(roundValuesMs[i + 1]));
+    return limits;
+}
+
+const std::array<double, roundValuesMs.size() - 1> limitsUs = computeLimits();
 
 /** How far two intervals are from each other, as people see it: by their ratio. */
 double distance(double leftMs, double rightMs)
@@ -21,6 +34,11 @@ double distance(double leftMs, double rightMs)
 }
 
 } // namespace
+
+IntervalStatistics::IntervalStatistics()
+{
+    roundClasses.fill(maximumClasses);
+}
 
 quint8 IntervalStatistics::getClass(qint64 ms)
 {
@@ -43,18 +61,15 @@ quint8 IntervalStatistics::getClass(qint64 ms)
 
 quint8 IntervalStatistics::getRoundClass(qint64 us)
 {
-    if (us == 0)
-        return getClass(0);
-    // Between two round values the geometric mean decides; only equal times are 0.
-    const double ms = static_cast<double>(us) / 1000.0;
-    const auto above = std::upper_bound(roundValuesMs.begin() + 1, roundValuesMs.end(), ms);
-    if (above == roundValuesMs.end())
-        return getClass(roundValuesMs.back());
-    if (above == roundValuesMs.begin() + 1)
-        return getClass(*above);
-    const qint64 below = *(above - 1);
-    const bool nearerAbove = ms * ms > static_cast<double>(below) * static_cast<double>(*above);
-    return getClass(nearerAbove ? *above : below);
+    // All limits are looked at, since that takes no branches.
+    const auto interval = static_cast<double>(us);
+    size_t place = 0;
+    for (const double limit : limitsUs)
+        place += interval > limit ? 1 : 0;
+    quint8 &known = roundClasses[place];
+    if (known == maximumClasses)
+        known = getClass(roundValuesMs[place]);
+    return known;
 }
 
 void IntervalStatistics::addGap(const MessageStatistics::Gap &gap)
@@ -67,17 +82,25 @@ void IntervalStatistics::addGap(const MessageStatistics::Gap &gap)
 
 void IntervalStatistics::fillGap(const MessageStatistics::Gap &gap)
 {
-    const bool disappears = gap.missingEpochs == 1;
-    --missingEpochs;
-    if (disappears)
-        --gapCount;
-    const qsizetype place = gaps.lastIndexOf(gap);
-    if (place < 0)
+    if (gap.missingEpochs <= 1) {
+        removeGap(gap);
         return;
-    if (disappears)
-        gaps.remove(place);
-    else
+    }
+    --missingEpochs;
+    const qsizetype place = gaps.lastIndexOf(gap);
+    if (place >= 0)
         --gaps[place].missingEpochs;
+}
+
+void IntervalStatistics::removeGap(const MessageStatistics::Gap &gap)
+{
+    if (gap.missingEpochs == 0)
+        return;
+    missingEpochs -= gap.missingEpochs;
+    --gapCount;
+    const qsizetype place = gaps.lastIndexOf(gap);
+    if (place >= 0)
+        gaps.remove(place);
 }
 
 QList<IntervalStatistics::Class> IntervalStatistics::getClasses() const

@@ -26,8 +26,12 @@ public:
     };
 
     static constexpr quint8 maximumClasses = 64;
+    /** So many round intervals are there for those that belong to no regular stretch. */
+    static constexpr size_t roundValues = 27;
     /** So many gaps are listed; all are counted. */
     static constexpr qsizetype maximumGaps = 1000;
+
+    IntervalStatistics();
 
     /** The index of the class of exactly \a ms, or of the nearest one when there is no room. */
     quint8 getClass(qint64 ms);
@@ -48,6 +52,9 @@ public:
     /** One epoch of \a gap, which was added as it is now, is not missing after all. */
     void fillGap(const MessageStatistics::Gap &gap);
 
+    /** \a gap, which was added as it is now, is none after all; one of no epochs is none anyway. */
+    void removeGap(const MessageStatistics::Gap &gap);
+
     /** The classes that count something, most frequent first, shorter ones first among equals. */
     QList<Class> getClasses() const;
 
@@ -59,6 +66,7 @@ public:
 private:
     std::array<Class, maximumClasses> classes;
     quint8 classCount = 0;
+    std::array<quint8, roundValues> roundClasses; ///< maximumClasses where not asked for yet.
 };
 
 } // namespace corvane

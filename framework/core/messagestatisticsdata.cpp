@@ -8,13 +8,15 @@ void MessageStatisticsData::count(const FrameHeader &frame)
 {
     ++received;
     Sender *sender = findSender(frame.senderId);
-    if (frame.timeUs == Rhythm::noTime) {
+    const qint64 timeUs = frame.getMessageTimeUs();
+    if (sender != nullptr)
+        sender->latestUs = frame.timeUs;
+    if (timeUs == Rhythm::noTime) {
         ++withUnknownTime;
         if (sender != nullptr)
-            sender->rhythm.interrupt();
+            sender->rhythm.addMessageWithoutTime();
     } else if (sender != nullptr) {
-        sender->hasOwnClock = frame.hasOwnClock;
-        sender->rhythm.addMessage(frame.timeUs, intervals);
+        sender->rhythm.addMessage(timeUs, intervals);
     } else {
         ++intervals.unknownIntervals;
     }
@@ -30,7 +32,7 @@ MessageStatisticsData::Sender *MessageStatisticsData::findSender(quint32 id)
         return nullptr;
     latestSender = static_cast<size_t>(found - senders.begin());
     if (found == senders.end())
-        senders.push_back({id, false, {}});
+        senders.push_back({id, Rhythm::noTime, {}});
     return &senders[latestSender];
 }
 
@@ -58,12 +60,12 @@ bool MessageStatisticsData::isActive(const Sender &sender) const
     // A sender that fell silent is told by the clock of the stream, which others keep going.
     constexpr double longestSilence = 5; // periods
     constexpr double shortestSilenceUs = 2e6;
-    const qint64 lastUs = sender.rhythm.getLastTimeUs();
-    if (lastUs == Rhythm::noTime)
+    if (sender.rhythm.getLastTimeUs() == Rhythm::noTime)
         return sender.rhythm.isRegular();
-    if (sender.hasOwnClock || clock->latestUs == Rhythm::noTime)
+    if (sender.latestUs == Rhythm::noTime)
         return true;
-    const auto silenceUs = static_cast<double>(clock->latestUs - lastUs);
+    const double silenceUs
+        = static_cast<double>(clock->latestUs) - static_cast<double>(sender.latestUs);
     return silenceUs <= std::max(longestSilence * sender.rhythm.getPeriodUs(), shortestSilenceUs);
 }
 

@@ -28,7 +28,7 @@ Result saturated(quint64 count)
         std::min<quint64>(count, static_cast<quint64>(std::numeric_limits<Result>::max())));
 }
 
-/** The time of the latest frame of a stream, whatever its type. */
+/** The time of the latest frame of a stream, whatever its type; not what a message says itself. */
 struct StreamClock
 {
     qint64 latestUs = Rhythm::noTime;
@@ -41,7 +41,7 @@ struct CORVANEFRAMEWORK_EXPORT MessageStatisticsData
     struct Sender
     {
         quint32 id = 0;
-        bool hasOwnClock = false; ///< Its times are not those of the stream.
+        qint64 latestUs = Rhythm::noTime; ///< By the clock of the stream.
         Rhythm rhythm;
     };
 

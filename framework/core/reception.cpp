@@ -127,7 +127,7 @@ void Reception::noteEvent(EventKind kind,
 
 void Reception::countIn(MessageStatisticsData &type, const FrameHeader &frame)
 {
-    if (frame.timeUs != Rhythm::noTime && !frame.hasOwnClock)
+    if (frame.timeUs != Rhythm::noTime)
         statistics.getData()->clock.latestUs = frame.timeUs;
     type.count(frame);
 }

@@ -29,7 +29,11 @@ struct FrameHeader
     quint32 senderId = 0;
     std::optional<quint32> sequence; ///< Nothing for a frame that belongs to no sequence.
     qint64 timeUs = 0; ///< Microseconds since 1970, or DecodedMessage::unknownTime.
-    bool hasOwnClock = false; ///< The time comes from a field and may count from anything.
+    /** What a field of the message says: microseconds since anything. */
+    std::optional<qint64> ownTimeUs = std::nullopt;
+
+    /** The message's own time where it says one. */
+    qint64 getMessageTimeUs() const { return ownTimeUs.value_or(timeUs); }
 };
 
 /**

@@ -14,6 +14,7 @@ constexpr double usPerMs = 1000.0;
 constexpr double usPerSecond = 1e6;
 constexpr double phaseInertia = 0.75; ///< The share of an error that is taken for jitter.
 constexpr size_t mostIntervals = 32; ///< That are looked at to find a period.
+constexpr double shortestPause = 64; ///< Between bursts, in periods of a burst.
 
 bool isNear(double value, double expected, double fraction)
 {
@@ -77,7 +78,9 @@ double findPeriodWithHoles(const Intervals &intervals)
         sum += interval.us;
         epochs += multiple;
     }
-    return 2 * single >= static_cast<int>(intervals.size()) ? sum / epochs : 0;
+    const auto count = static_cast<double>(intervals.size());
+    const bool mostIsThere = 2 * single >= count && 2 * count >= epochs;
+    return mostIsThere ? sum / epochs : 0;
 }
 
 /**
@@ -138,31 +141,41 @@ qint64 roundPeriod(double periodUs)
 void Rhythm::addMessage(qint64 timeUs, IntervalStatistics &statistics)
 {
     const qint64 startUs = lastTimeUs;
-    lastTimeUs = timeUs;
-    if (startUs == noTime || timeUs < startUs || timeUs - startUs >= clockStepUs) {
+    // Without sign, since the difference of far times has no room in a signed number.
+    const quint64 stepUs = static_cast<quint64>(timeUs) - static_cast<quint64>(startUs);
+    if (startUs == noTime || timeUs < startUs || stepUs >= quint64(clockStepUs)) {
+        if (startUs != noTime)
+            countMiss();
         interrupt();
         lastTimeUs = timeUs;
         startIsOpen = true;
         ++statistics.unknownIntervals;
         return;
     }
-    lastIntervalUs = static_cast<double>(timeUs - startUs);
+    lastTimeUs = timeUs;
+    lastIntervalUs = static_cast<double>(stepUs);
     ++sinceStart;
     Interval interval{lastIntervalUs, 0};
     if (isRegular()) {
         interval.classIndex = follow(startUs, lastIntervalUs, statistics);
         remember(interval);
-        constexpr int mostMisses = 4;
-        constexpr double mostDrift = 0.1;
-        if (run >= longestRun || std::popcount(misses & 0xffffU) > mostMisses
-            || !isNear(periodUs, foundPeriodUs, mostDrift))
+        endIfLost();
+        if (interval.us > shortestPause * periodUs && isRegular() && comesInBursts(periodUs)) {
+            statistics.removeGap(pause);
             end();
+        }
     } else {
-        interval.classIndex = statistics.getRoundClass(timeUs - startUs);
+        interval.classIndex = statistics.getRoundClass(static_cast<qint64>(stepUs));
         statistics.add(interval.classIndex);
         remember(interval);
         learn(statistics);
     }
+}
+
+void Rhythm::addMessageWithoutTime()
+{
+    countMiss();
+    interrupt();
 }
 
 void Rhythm::interrupt()
@@ -174,7 +187,7 @@ void Rhythm::interrupt()
     phaseUs = 0;
     run = 0;
     suspectedGapCount = 0;
-    confirmedGap.missing = 0;
+    confirmedGap = {};
 }
 
 quint64 Rhythm::getIntervalMs() const
@@ -217,8 +230,19 @@ void Rhythm::learn(IntervalStatistics &statistics)
         period = findUnsteadyPeriod(latest(count = manyIntervals), 0);
     if (period == 0 && usable >= static_cast<int>(mostIntervals) && sinceStart % 16 == 0)
         period = findUnsteadyPeriod(latest(count = mostIntervals), 6);
-    if (period > 0)
+    if (period > 0 && !comesInBursts(period))
         begin(period, count, statistics);
+}
+
+/** Whether several of the latest intervals were long pauses behind an interval of \a period. */
+bool Rhythm::comesInBursts(double period) const
+{
+    const auto seen = latest(std::min(filled, history));
+    int pauses = 0;
+    for (size_t i = 1; i < seen.size(); ++i)
+        if (seen[i].us > shortestPause * period && seen[i - 1].us < 1.5 * period)
+            ++pauses;
+    return pauses > 1;
 }
 
 void Rhythm::begin(double period, int count, IntervalStatistics &statistics)
@@ -233,7 +257,8 @@ void Rhythm::begin(double period, int count, IntervalStatistics &statistics)
     misses = 0;
     run = 0;
     suspectedGapCount = 0;
-    confirmedGap.missing = 0;
+    confirmedGap = {};
+    pause = {};
     deviationUs = 0;
     for (const Interval &interval : latest(count)) {
         const double epochs = std::max(1.0, std::round(interval.us / period));
@@ -243,14 +268,14 @@ void Rhythm::begin(double period, int count, IntervalStatistics &statistics)
     const bool fromStart = startIsOpen && sinceStart == static_cast<quint64>(usable);
     const auto last = intervals.begin() + filled;
     const auto first = last - (fromStart ? usable : count);
-    double startUs = static_cast<double>(lastTimeUs);
+    qint64 startUs = lastTimeUs;
     for (auto each = first; each != last; ++each)
-        startUs -= each->us;
+        startUs -= std::llround(each->us);
     startIsOpen = fromStart;
     for (auto each = first; each != last; ++each) {
         statistics.remove(each->classIndex);
-        each->classIndex = follow(std::llround(startUs), each->us, statistics);
-        startUs += each->us;
+        each->classIndex = follow(startUs, each->us, statistics);
+        startUs += std::llround(each->us);
     }
     misses = 0;
 }
@@ -262,10 +287,28 @@ void Rhythm::end()
     usable = std::min(usable, run); // what is in rhythm has had its effect
 }
 
+void Rhythm::endIfLost()
+{
+    constexpr int mostMisses = 4;
+    constexpr double mostDrift = 0.1;
+    if (run >= longestRun || std::popcount(misses & 0xffffU) > mostMisses
+        || !isNear(periodUs, foundPeriodUs, mostDrift))
+        end();
+}
+
+/** A message came at a moment that tells nothing about the rhythm. */
+void Rhythm::countMiss()
+{
+    misses = misses << 1U | 1U;
+    if (isRegular())
+        endIfLost();
+}
+
 quint8 Rhythm::follow(qint64 startUs, double us, IntervalStatistics &statistics)
 {
     constexpr double leastTolerance = 0.1;
     constexpr double mostTolerance = 0.8;
+    constexpr double tellingTolerance = 0.3; // beyond, any long interval looks like a hole
     const double tolerance
         = std::clamp(4 * deviationUs, leastTolerance * periodUs, mostTolerance * periodUs);
     const double sinceEpoch = us - phaseUs;
@@ -291,13 +334,14 @@ quint8 Rhythm::follow(qint64 startUs, double us, IntervalStatistics &statistics)
 
     ++run;
     const bool isHole = epochs >= 2 && us > periodUs + tolerance && std::abs(error) <= tolerance;
-    if (isHole && inRhythm > 0 && suspectedGapCount < longestRun)
+    const bool isSuspected = isHole && inRhythm > 0 && suspectedGapCount < longestRun;
+    if (isSuspected)
         suspectedGaps[static_cast<size_t>(suspectedGapCount++)]
             = {startUs, static_cast<quint64>(epochs) - 1};
-    else
-        misses |= 1U;
     if (epochs < 1 && fillGap(statistics))
         --run;
+    else if (!isSuspected || tolerance > tellingTolerance * periodUs)
+        misses |= 1U;
     if (run >= longestRun)
         suspectedGapCount = 0;
     phaseUs = epochs >= 1 ? -phaseInertia * error : phaseUs - us;
@@ -337,10 +381,12 @@ bool Rhythm::fillGap(IntervalStatistics &statistics)
             --suspectedGapCount;
         return true;
     }
-    if (confirmedGap.missing == 0)
+    if (confirmedGap.missingEpochs == 0)
         return false;
-    statistics.fillGap(gapOf(confirmedGap));
-    --confirmedGap.missing;
+    statistics.fillGap(confirmedGap);
+    if (pause == confirmedGap)
+        --pause.missingEpochs;
+    --confirmedGap.missingEpochs;
     return true;
 }
 
@@ -363,11 +409,13 @@ void Rhythm::confirmGaps(IntervalStatistics &statistics)
 {
     constexpr int stillLate = 3; // so many messages later, a message may still be a late one
     if (++sinceConfirmed > stillLate)
-        confirmedGap.missing = 0;
+        confirmedGap.missingEpochs = 0;
     for (int i = 0; i < suspectedGapCount; ++i) {
-        confirmedGap = suspectedGaps[static_cast<size_t>(i)];
+        confirmedGap = gapOf(suspectedGaps[static_cast<size_t>(i)]);
         sinceConfirmed = 0;
-        statistics.addGap(gapOf(confirmedGap));
+        statistics.addGap(confirmedGap);
+        if (confirmedGap.missingEpochs >= shortestPause)
+            pause = confirmedGap;
     }
     suspectedGapCount = 0;
 }

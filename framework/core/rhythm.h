@@ -29,6 +29,8 @@ public:
 
     /** A message came at \a timeUs. */
     void addMessage(qint64 timeUs, IntervalStatistics &statistics);
+    /** A message came that says no time. */
+    void addMessageWithoutTime();
     /** The next message follows on nothing that is known. */
     void interrupt();
 
@@ -59,9 +61,12 @@ private:
     static constexpr int longestRun = 4; ///< So many intervals in a row out of rhythm end it.
 
     void learn(IntervalStatistics &statistics);
+    bool comesInBursts(double period) const;
     std::span<const Interval> latest(int count) const;
     void begin(double period, int intervals, IntervalStatistics &statistics);
     void end();
+    void endIfLost();
+    void countMiss();
     /** Takes an interval of a regular stretch; returns its class. */
     quint8 follow(qint64 startUs, double us, IntervalStatistics &statistics);
     void keepTime(double error);
@@ -94,8 +99,9 @@ private:
     int run = 0; ///< Intervals since the last one in rhythm.
     std::array<SuspectedGap, longestRun> suspectedGaps;
     int suspectedGapCount = 0;
-    SuspectedGap confirmedGap; ///< The latest one, while late messages may still fill it.
+    MessageStatistics::Gap confirmedGap; ///< The latest one, while late messages may still fill it.
     int sinceConfirmed = 0; ///< Messages.
+    MessageStatistics::Gap pause; ///< The latest gap of the stretch that may lie between bursts.
 };
 
 } // namespace corvane

@@ -140,7 +140,8 @@ StreamDecoder::Step MavlinkDecoder::takeFrame(const MavlinkFrame &frame,
     reportSkipped();
     inStep = true;
     if (reception.receiveFrame(header))
-        reception.deliver(MavlinkMessage::create(header.messageInfo, frame, bytes, header.timeUs));
+        reception.deliver(
+            MavlinkMessage::create(header.messageInfo, frame, bytes, header.getMessageTimeUs()));
     advance(getPrefixSize() + static_cast<size_t>(frame.getSize()));
     return Step::Advanced;
 }
@@ -151,10 +152,7 @@ void MavlinkDecoder::readTimeField(FrameHeader &header,
 {
     const MavlinkMessage *message
         = MavlinkMessage::create(header.messageInfo, frame, bytes, header.timeUs);
-    if (const auto time = readOwnTimeUs(message)) {
-        header.timeUs = *time;
-        header.hasOwnClock = true;
-    }
+    header.ownTimeUs = readOwnTimeUs(message);
     message->removeReference();
 }
 

@@ -39,6 +39,9 @@ private Q_SLOTS:
     void events_followTheirEndUntilScrolledBack();
     void events_startAgainWhenTheLogIsCleared();
     void events_ofALongLog_areFilteredAtOnce();
+    void events_ofAFullLog_areShownAgainSoon_data();
+    void events_ofAFullLog_areShownAgainSoon();
+    void events_clearedWhileFiltered_areShownAfterwards();
 };
 
 namespace {
@@ -189,6 +192,7 @@ void tst_receptionpanels::events_showOnlyWhatIsLookedFor()
     EventLogPanel panel(log);
     panel.show();
     log.addEntry(entry("lost"));
+    QCoreApplication::processEvents();
     auto *edit = panel.findChild<QLineEdit *>();
     const auto *table = panel.findChild<EventLogTableWidget *>();
     const auto *state = panel.findChild<QLabel *>();
@@ -197,6 +201,7 @@ void tst_receptionpanels::events_showOnlyWhatIsLookedFor()
     QCOMPARE(shownEvents(*table), QStringList{"CRC error: A"});
     log.addEntry(entry("crc error: B"));
     log.addEntry(entry("lost again"));
+    QCoreApplication::processEvents();
     QCOMPARE(shownEvents(*table), (QStringList{"CRC error: A", "crc error: B"}));
     QCOMPARE(state->text(), "2 of 4 entries");
     edit->clear();
@@ -244,10 +249,12 @@ void tst_receptionpanels::events_startAgainWhenTheLogIsCleared()
     EventLogPanel panel(log);
     log.addEntry(entry("one"));
     log.clear();
+    QCoreApplication::processEvents();
     QVERIFY(panel.findChild<QLabel *>()->text().startsWith("No events"));
     panel.setFilter("t");
     log.addEntry(entry("two"));
     log.addEntry(entry("one"));
+    QCoreApplication::processEvents();
     QCOMPARE(panel.findChild<QLabel *>()->text(), "1 of 2 entries");
 }
 
@@ -265,6 +272,64 @@ void tst_receptionpanels::events_ofALongLog_areFilteredAtOnce()
         if (QString::number(i).contains("77"))
             expected += QString::number(i);
     QCOMPARE(shownEvents(*panel.findChild<EventLogTableWidget *>()), expected);
+}
+
+void tst_receptionpanels::events_ofAFullLog_areShownAgainSoon_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::newRow("all") << QString();
+    QTest::newRow("some") << "77";
+    QTest::newRow("none") << "nothing";
+}
+
+void tst_receptionpanels::events_ofAFullLog_areShownAgainSoon()
+{
+    QFETCH(QString, filter);
+    EventLog log;
+    EventLogPanel panel(log);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    panel.setFilter(filter);
+    QElapsedTimer timer;
+    timer.start();
+    constexpr int limit = 100'000;
+    for (int i = 0; i < limit; ++i)
+        log.addEntry(entry(QString::number(i)));
+    QCoreApplication::processEvents();
+    log.addEntry(entry("77 is the last one")); // half of them go, the others come anew
+    QCoreApplication::processEvents();
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    const auto *table = panel.findChild<EventLogTableWidget *>();
+    QStringList expected;
+    const auto entries = log.getEntries();
+    for (const EventLog::Entry &each : entries)
+        if (each.event.getMessage().contains(filter))
+            expected += each.event.getMessage();
+    QCOMPARE(shownEvents(*table), expected);
+}
+
+void tst_receptionpanels::events_clearedWhileFiltered_areShownAfterwards()
+{
+    EventLog log;
+    EventLogPanel panel(log);
+    panel.show();
+    for (int i = 0; i < 100; ++i)
+        log.addEntry(entry(QString::number(i)));
+    panel.setFilter("nothing");
+    const auto *table = panel.findChild<EventLogTableWidget *>();
+    QCOMPARE(shownEvents(*table), QStringList());
+    log.clear();
+    panel.setFilter({});
+    log.addEntry(entry("one"));
+    QCoreApplication::processEvents();
+    QCOMPARE(shownEvents(*table), QStringList{"one"});
+    panel.setFilter("two");
+    log.clear();
+    log.addEntry(entry("two"));
+    log.addEntry(entry("three"));
+    QCoreApplication::processEvents();
+    QCOMPARE(shownEvents(*table), QStringList{"two"});
+    QCOMPARE(panel.findChild<QLabel *>()->text(), "1 of 2 entries");
 }
 
 CORVANE_GUI_TEST_MAIN(tst_receptionpanels)

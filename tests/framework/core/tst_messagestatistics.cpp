@@ -18,10 +18,13 @@ constexpr qint64 ms = 1000;
 /** A reception of types A and B. */
 struct Scene
 {
-    void send(const char *type, quint32 sender, qint64 timeUs, bool hasOwnClock = false)
+    void send(const char *type,
+              quint32 sender,
+              qint64 timeUs,
+              std::optional<qint64> ownTimeUs = std::nullopt)
     {
         reception.receiveFrame(
-            {format.type(QLatin1String(type)), 0, sender, sequence++, timeUs, hasOwnClock});
+            {format.type(QLatin1String(type)), 0, sender, sequence++, timeUs, ownTimeUs});
     }
 
     /** Those of the first type that came. */
@@ -45,6 +48,7 @@ private Q_SLOTS:
     void counts_byTime_data();
     void counts_byTime();
     void report_ofARegularType();
+    void withoutTime_isNotRegularForLong();
     void counts_staySaturated();
     void intervals_mostFrequentFirst();
     void senders_haveRhythmsOfTheirOwn();
@@ -115,6 +119,20 @@ void TestMessageStatistics::report_ofARegularType()
     QCOMPARE(statistics.getGaps().constFirst().start, static_cast<quint64>(49 * 50));
     const QHash<long long, unsigned int> counts{{50, 98}, {100, 1}};
     QCOMPARE(statistics.getIntervalCountHash(), counts);
+}
+
+void TestMessageStatistics::withoutTime_isNotRegularForLong()
+{
+    Scene scene;
+    for (int i = 0; i < 100; ++i)
+        scene.send("A", 1, i == 50 ? noTime : i * 50 * ms);
+    QVERIFY(scene.statistics().isCurrentlyRegular()); // one was no harm
+    QCOMPARE(scene.statistics().getNumberOfGaps(), 0U);
+    QCOMPARE(scene.statistics().getIntervalCountHash(), (QHash<long long, unsigned int>{{50, 99}}));
+    for (int i = 0; i < 5; ++i)
+        scene.send("A", 1, noTime);
+    QVERIFY(!scene.statistics().isCurrentlyRegular());
+    QCOMPARE(scene.statistics().getCountWithUnknownTime(), 6U);
 }
 
 void TestMessageStatistics::counts_staySaturated()
@@ -201,7 +219,7 @@ void TestMessageStatistics::ownClock_isNotComparedWithOthers()
 {
     Scene scene;
     for (int i = 0; i < 100; ++i)
-        scene.send("A", 1, i * 500 * ms, true); // counts from its own start
+        scene.send("A", 1, noTime, i * 500 * ms); // counts from its own start
     scene.send("B", 1, 1'700'000'000'000 * ms);
     QVERIFY(scene.statistics().isCurrentlyRegular());
 }

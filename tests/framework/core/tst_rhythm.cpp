@@ -5,8 +5,9 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <optional>
+#include <limits>
 
 using namespace corvane::test;
 using corvane::IntervalStatistics;
@@ -44,13 +45,20 @@ struct Stream
         return texts;
     }
 
-    /** Whether each message is in one class or in none. */
+    /** Whether each message is in one class or in none, and the list of gaps is what is counted. */
     bool addsUp() const
     {
         quint64 sum = statistics.unknownIntervals;
         for (const auto &known : statistics.getClasses())
             sum += known.count;
-        return sum == sent;
+        quint64 missing = 0;
+        for (const auto &gap : statistics.gaps)
+            missing += gap.missingEpochs;
+        const auto listed = static_cast<quint64>(statistics.gaps.size());
+        const bool gapsAddUp = statistics.gapCount == listed
+                                   ? statistics.missingEpochs == missing
+                                   : statistics.gapCount > 1000 && listed > 900;
+        return sum == sent && gapsAddUp;
     }
 
     IntervalStatistics statistics;
@@ -80,6 +88,9 @@ private Q_SLOTS:
     void randomMoments_areNeverRegular_data();
     void randomMoments_areNeverRegular();
     void bursts_areNeverRegular();
+    void longBursts_areNoRhythmWithGaps_data();
+    void longBursts_areNoRhythmWithGaps();
+    void pairs_areNoRhythmWithGaps();
     void oddPeriods_areNamed_data();
     void oddPeriods_areNamed();
     void changeOfRate_isFollowed_data();
@@ -91,11 +102,17 @@ private Q_SLOTS:
     void removedRuns_areFound();
     void removedFromJitter_areFound();
     void lateMessages_areNoGaps();
+    void manyLateMessages_areNoGaps();
     void silenceAtTheEnd_isNoGap();
     void otherRateForAWhile_isNoGap();
     void gap_tellsWhereItIs();
     void equalTimes_areCountedApart();
     void backInTime_isUnknown();
+    void backInTimeAgainAndAgain_isNotRegular();
+    void farTimes_areSteps();
+    void anyStream_addsUp_data();
+    void anyStream_addsUp();
+    void fullClasses_addUp();
     void clockStep_isUnknown_data();
     void clockStep_isUnknown();
     void interruption_isUnknown();
@@ -208,6 +225,39 @@ void TestRhythm::bursts_areNeverRegular()
             stream.send(beginning + i * second + j * ms);
             QVERIFY(!stream.rhythm.isRegular());
         }
+    QCOMPARE(stream.statistics.gapCount, 0U);
+}
+
+void TestRhythm::longBursts_areNoRhythmWithGaps_data()
+{
+    QTest::addColumn<int>("size");
+    for (const int size : {9, 12, 20, 30})
+        QTest::addRow("%d", size) << size;
+}
+
+void TestRhythm::longBursts_areNoRhythmWithGaps()
+{
+    QFETCH(int, size);
+    Stream stream;
+    for (int i = 0; i < 200; ++i)
+        for (int j = 0; j < size; ++j) {
+            stream.send(beginning + i * 200 * ms + j * 50);
+            // The first pause might be a gap; the second one tells.
+            QVERIFY(i < 3 || !stream.rhythm.isRegular());
+        }
+    QCOMPARE(stream.statistics.gapCount, 0U);
+    QVERIFY(stream.addsUp());
+    stream.sendRegularly(100, 50 * ms); // now it is regular
+    QVERIFY(stream.rhythm.isRegular());
+    QCOMPARE(stream.rhythm.getIntervalMs(), 50U);
+}
+
+void TestRhythm::pairs_areNoRhythmWithGaps()
+{
+    Stream stream;
+    for (int i = 0; i < 1000; ++i)
+        stream.send(beginning + i / 2 * 100 * ms + i % 2 * 20 * ms);
+    QVERIFY(!stream.rhythm.isRegular());
     QCOMPARE(stream.statistics.gapCount, 0U);
 }
 
@@ -377,6 +427,21 @@ void TestRhythm::lateMessages_areNoGaps()
     QVERIFY(stream.addsUp());
 }
 
+void TestRhythm::manyLateMessages_areNoGaps()
+{
+    Stream stream;
+    qint64 latest = 0;
+    for (int i = 0; i < 2000; ++i) {
+        const int heldUntil = i % 200 >= 100 && i % 200 < 120 ? i - i % 200 + 120 : i;
+        latest = std::max(latest + 30, beginning + heldUntil * 50 * ms);
+        stream.send(latest);
+        QVERIFY(i < 10 || stream.rhythm.isRegular());
+        QVERIFY(i < 10 || stream.rhythm.getIntervalMs() == 50);
+    }
+    QCOMPARE(stream.statistics.gapCount, 0U);
+    QVERIFY(stream.addsUp());
+}
+
 void TestRhythm::silenceAtTheEnd_isNoGap()
 {
     Stream stream;
@@ -433,6 +498,99 @@ void TestRhythm::backInTime_isUnknown()
     QCOMPARE(stream.statistics.unknownIntervals, 0U);
     QCOMPARE(stream.statistics.gapCount, 0U);
     QCOMPARE(stream.classes(), QStringList{"50: 200"});
+}
+
+void TestRhythm::backInTimeAgainAndAgain_isNotRegular()
+{
+    Stream stream;
+    stream.sendRegularly(100, 50 * ms);
+    stream.sendRegularly(4, -50 * ms);
+    QVERIFY(stream.rhythm.isRegular());
+    stream.sendRegularly(1, -50 * ms);
+    QVERIFY(!stream.rhythm.isRegular());
+    Stream toAndFro;
+    for (int i = 0; i < 100; ++i)
+        toAndFro.send(beginning + (i < 50 ? i : i % 2) * 50 * ms);
+    QVERIFY(!toAndFro.rhythm.isRegular());
+    QVERIFY(toAndFro.addsUp());
+}
+
+void TestRhythm::farTimes_areSteps()
+{
+    constexpr qint64 first = std::numeric_limits<qint64>::min() + 1; // the least one is no time
+    constexpr qint64 last = std::numeric_limits<qint64>::max();
+    Stream stream;
+    for (int i = 0; i < 10; ++i) {
+        stream.send(first);
+        stream.send(last);
+    }
+    QCOMPARE(stream.statistics.unknownIntervals, 20U);
+    for (int i = 0; i < 50; ++i)
+        stream.send(last - (49 - i) * second);
+    for (int i = 0; i < 50; ++i)
+        stream.send(first + i * second + (i > 40 ? 5 * second : 0));
+    QVERIFY(stream.rhythm.isRegular());
+    QCOMPARE(stream.statistics.gapCount, 1U);
+    QCOMPARE(stream.statistics.gaps.constFirst().start, 0U); // before 1970 is no time for people
+    QVERIFY(stream.addsUp());
+}
+
+void TestRhythm::anyStream_addsUp_data()
+{
+    QTest::addColumn<double>("mean");
+    QTest::addColumn<qint64>("resolution");
+    for (const double mean : {0.02, 1.0, 20.0, 100.0, 60'000.0})
+        for (const qint64 resolution : {1, 1000, 10'000, 16'000})
+            QTest::addRow("%g ms, %lld us", mean, resolution) << mean * ms << resolution;
+}
+
+/** Streams that look regular now and then, with late messages, holes and changes of the clock. */
+void TestRhythm::anyStream_addsUp()
+{
+    QFETCH(double, mean);
+    QFETCH(qint64, resolution);
+    for (quint32 seed = 1; seed <= 20; ++seed) {
+        QRandomGenerator random(seed);
+        Stream stream;
+        double time = 0;
+        bool wild = false;
+        for (int i = 0; i < 4000; ++i) {
+            if (random.bounded(200) == 0)
+                wild = !wild;
+            if (random.bounded(500) == 0)
+                time += (random.generateDouble() - 0.5) * 1e11;
+            const double scale = wild ? 0.3 * std::pow(1.0 - random.generateDouble(), -0.7)
+                                      : 1.0 + 0.05 * gaussian(random);
+            time += mean * scale;
+            stream.send(beginning + std::llround(time) / resolution * resolution);
+            if (i % 100 == 0)
+                QVERIFY2(stream.addsUp(), qPrintable(QString::number(seed)));
+        }
+        QVERIFY(stream.addsUp());
+    }
+}
+
+void TestRhythm::fullClasses_addUp()
+{
+    Stream stream;
+    for (int i = 0; i < 64; ++i)
+        stream.statistics.getClass(7 + i * i); // nothing in them, and no room for others
+    QRandomGenerator random(3);
+    std::array<Rhythm, 3> others;
+    for (int stretch = 0; stretch < 300; ++stretch) {
+        const qint64 period = (1 + random.bounded(3000)) * 997;
+        for (int i = random.bounded(150); i > 0; --i) {
+            const qint64 time = beginning + stretch * 1000 * second + i * period;
+            others[static_cast<size_t>(i % 3)].addMessage(
+                time + random.bounded(static_cast<int>(period / 10 + 1)), stream.statistics);
+            ++stream.sent;
+        }
+        stream.sendRegularly(random.bounded(150), period + random.bounded(1000));
+    }
+    QVERIFY(stream.addsUp());
+    for (const auto &known : stream.statistics.getClasses())
+        QVERIFY(known.count <= stream.sent);
+    QVERIFY(stream.statistics.getClasses().size() <= 64);
 }
 
 void TestRhythm::clockStep_isUnknown_data()
@@ -541,6 +699,14 @@ void TestRhythm::lateMessage_takesAGapBack()
     QCOMPARE(statistics.gapCount, 1U);
     QCOMPARE(statistics.gaps.size(), 1);
     QCOMPARE(statistics.gaps.constFirst().start, 1U);
+    statistics.fillGap({9, 0, 10}); // none at all
+    QCOMPARE(statistics.gapCount, 1U);
+    QCOMPARE(statistics.missingEpochs, 1U);
+    statistics.addGap({20, 100, 10});
+    statistics.removeGap({20, 100, 10});
+    QCOMPARE(statistics.gapCount, 1U);
+    QCOMPARE(statistics.missingEpochs, 1U);
+    QCOMPARE(statistics.gaps.size(), 1);
 }
 
 CORVANE_TEST_MAIN(TestRhythm)
