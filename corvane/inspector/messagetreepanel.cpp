@@ -167,7 +167,7 @@ void MessageTreePanel::restoreSettings(QSettings &settings)
     const bool isFirstTime = !settings.contains(QStringLiteral("headerstate"));
     tree->restoreSettings(settings);
     if (isFirstTime) {
-        tree->setColumnWidth(0, fontMetrics().averageCharWidth() * 34);
+        tree->setColumnWidth(0, fontMetrics().averageCharWidth() * 46);
         tree->setColumnWidth(1, fontMetrics().averageCharWidth() * 12);
     }
     tree->loadExpansionState(settings);

@@ -85,8 +85,37 @@ public:
 
     QList<QTreeWidget *> trees() { return {stock, other}; }
 
-    /** What is different, or nothing. */
+    /**
+     * What stays different, or nothing. Hiding a column, opening an editor and painting leave work
+     * for the next round of events, which also stock trees do not always do in the same round.
+     */
     QString difference()
+    {
+        constexpr int rounds = 4;
+        QString found = differenceNow();
+        for (int i = 1; i < rounds && !found.isEmpty(); ++i)
+            found = differenceNow();
+        return found;
+    }
+
+    /** Does the same random thing to both. */
+    void step(QRandomGenerator &random)
+    {
+        const auto what = random.bounded(40);
+        const quint32 rowChoice = random.generate();
+        const quint32 choice = random.generate();
+        for (QTreeWidget *tree : trees()) {
+            const auto rows = rowsOf(tree);
+            if (rows.isEmpty())
+                addRow(new QTreeWidgetItem(tree), 0);
+            else
+                change(tree, rows.at(rowChoice % static_cast<quint32>(rows.size())),
+                       static_cast<int>(what), static_cast<int>(choice % 100'000));
+        }
+    }
+
+private:
+    QString differenceNow()
     {
         if (QWidget *focused = QApplication::focusWidget())
             focused->clearFocus();
@@ -110,23 +139,6 @@ public:
                    : "pixels";
     }
 
-    /** Does the same random thing to both. */
-    void step(QRandomGenerator &random)
-    {
-        const auto what = random.bounded(40);
-        const quint32 rowChoice = random.generate();
-        const quint32 choice = random.generate();
-        for (QTreeWidget *tree : trees()) {
-            const auto rows = rowsOf(tree);
-            if (rows.isEmpty())
-                addRow(new QTreeWidgetItem(tree), 0);
-            else
-                change(tree, rows.at(rowChoice % static_cast<quint32>(rows.size())),
-                       static_cast<int>(what), static_cast<int>(choice % 100'000));
-        }
-    }
-
-private:
     static void addRow(QTreeWidgetItem *row, int choice)
     {
         row->setFlags(row->flags() | Qt::ItemIsEditable);
