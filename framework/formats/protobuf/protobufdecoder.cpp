@@ -121,12 +121,19 @@ StreamDecoder::Step ProtobufDecoder::takeNext()
     if (next->content != nullptr)
         deliver(header);
     else
-        reception.skipBytes(
-            streamPosition, size,
-            tr("they are no message of type %1").arg(format.getRootInfo()->getData()->name),
-            header.timeUs);
+        reception.skipBytes(streamPosition, size, describeDamage(), header.timeUs);
     advance(size);
     return Step::Advanced;
+}
+
+QString ProtobufDecoder::describeDamage() const
+{
+    const auto bytes
+        = getRest().sliced(next->length.prefixSize, static_cast<qsizetype>(next->length.size));
+    if (ProtobufContent::isTooMuch(format.getRoot(), bytes))
+        return tr("the message would take more than %1 bytes of memory")
+            .arg(ProtobufContent::maximumMemory);
+    return tr("they are no message of type %1").arg(format.getRootInfo()->getData()->name);
 }
 
 void ProtobufDecoder::deliver(FrameHeader header)

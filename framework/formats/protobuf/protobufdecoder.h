@@ -5,6 +5,7 @@
 #include "streamdecoder.h"
 
 #include <QByteArrayView>
+#include <QString>
 
 #include <memory>
 #include <vector>
@@ -53,6 +54,7 @@ private:
     QByteArrayView getRest() const;
     bool prepare() const;
     Step takeNext();
+    QString describeDamage() const;
     void deliver(FrameHeader header);
     void
     deliver(const FrameHeader &header, const google::protobuf::Message &message, bool confidential);

@@ -70,6 +70,8 @@ ProtobufDescriber::~ProtobufDescriber() = default;
 const MessageInfo *ProtobufDescriber::describe(const Descriptor *root)
 {
     package = root->file()->package();
+    if (!package.empty())
+        format->getData()->package = QString::fromStdString(package + '.');
     const Key key{root, 0, false};
     findCircles(root);
     for (const Descriptor *content : getAnyContents({nullptr, 0, false}))
@@ -183,7 +185,7 @@ const MessageInfo *ProtobufDescriber::makeMessage(const Key &key)
     data->format = format;
     data->main = false;
     FormatInfoData &all = *format->getData();
-    MessageInfo *first = all.findMessage(data->name);
+    MessageInfo *first = all.messagesByName.value(data->name);
     if (first != nullptr) {
         data->displayName = data->name;
         data->name += QStringLiteral("#%1").arg(first->getData()->variants.size() + 2);
