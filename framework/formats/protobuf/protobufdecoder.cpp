@@ -67,7 +67,7 @@ bool ProtobufDecoder::prepare() const
         return true;
     ProtobufLength length;
     const QByteArrayView rest = getRest();
-    if (toPassOver != 0
+    if (format.getRoot() == nullptr || toPassOver != 0
         || ProtobufLength::read(rest, framing, length) != ProtobufLength::Result::Length
         || length.size > maximumSize
         || static_cast<quint64>(rest.size() - length.prefixSize) < length.size)
@@ -91,6 +91,8 @@ std::optional<qint64> ProtobufDecoder::getNextTimeUs() const
 
 StreamDecoder::Step ProtobufDecoder::step()
 {
+    if (format.getRoot() == nullptr)
+        return skipRest(tr("no definitions are loaded"));
     if (toPassOver != 0)
         return passOver();
     if (prepare())
@@ -110,7 +112,7 @@ StreamDecoder::Step ProtobufDecoder::step()
     case ProtobufLength::Result::Incomplete:
         break;
     }
-    return finished ? takeEnd() : Step::NeedsBytes;
+    return finished ? skipRest(tr("the stream ends inside of a message")) : Step::NeedsBytes;
 }
 
 StreamDecoder::Step ProtobufDecoder::takeNext()
@@ -203,12 +205,12 @@ StreamDecoder::Step ProtobufDecoder::passOver()
     return Step::Advanced;
 }
 
-StreamDecoder::Step ProtobufDecoder::takeEnd()
+StreamDecoder::Step ProtobufDecoder::skipRest(const QString &reason)
 {
     const auto rest = static_cast<size_t>(getRest().size());
     if (rest == 0)
         return Step::NeedsBytes;
-    reception.skipBytes(streamPosition, rest, tr("the stream ends inside of a message"),
+    reception.skipBytes(streamPosition, rest, reason,
                         arrivalUs.value_or(DecodedMessage::unknownTime));
     advance(rest);
     return Step::Advanced;

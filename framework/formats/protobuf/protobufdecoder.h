@@ -61,7 +61,7 @@ private:
     quint32 findUnknownNumber() const;
     Step takeOversized(const ProtobufLength &length);
     Step passOver();
-    Step takeEnd();
+    Step skipRest(const QString &reason);
     void advance(size_t count);
 
     const ProtobufFormat &format;

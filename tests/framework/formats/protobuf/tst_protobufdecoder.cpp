@@ -27,6 +27,7 @@ private Q_SLOTS:
     void tooLongMessage_isPassedOverWithoutBeingKept_data();
     void tooLongMessage_isPassedOverWithoutBeingKept();
     void noLength_isPassedOver();
+    void streamWithoutDefinitions_isPassedOver();
     void cutEnd_isTold_data();
     void cutEnd_isTold();
     void expandingMessage_isRefused();
@@ -218,6 +219,18 @@ void tst_ProtobufDecoder::noLength_isPassedOver()
     QCOMPARE(run.getTotals().skippedBytes, 10U);
     QCOMPARE(run.getEvents(), QStringList("10 bytes from offset 0 are lost: they should be the "
                                           "length of a message and are none."));
+}
+
+void tst_ProtobufDecoder::streamWithoutDefinitions_isPassedOver()
+{
+    const ProtobufFormat format;
+    ProtobufRun run(format);
+    run.append(frame("x: 2", true));
+    QVERIFY(!run.getDecoder().getNextTimeUs());
+    run.finish();
+    QCOMPARE(run.getTotals().skippedBytes, 3U);
+    QCOMPARE(run.getEvents(),
+             QStringList("3 bytes from offset 0 are lost: no definitions are loaded."));
 }
 
 void tst_ProtobufDecoder::cutEnd_isTold_data()
