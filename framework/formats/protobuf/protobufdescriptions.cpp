@@ -22,9 +22,15 @@ constexpr quint64 maximumRows = 20'000;
 constexpr size_t maximumMessages = 20'000;
 constexpr size_t maximumAnyContents = 100;
 
+/** Definitions may bring an Any of their own, which need not look like one. */
 bool isAny(const Descriptor *type)
 {
-    return type->full_name() == "google.protobuf.Any";
+    const auto isSingle = [type](int number, FieldDescriptor::Type fieldType) {
+        const FieldDescriptor *field = type->FindFieldByNumber(number);
+        return field != nullptr && field->type() == fieldType && !field->is_repeated();
+    };
+    return type->full_name() == "google.protobuf.Any" && isSingle(1, FieldDescriptor::TYPE_STRING)
+           && isSingle(2, FieldDescriptor::TYPE_BYTES);
 }
 
 FieldType fieldTypeOf(const FieldDescriptor *field)
