@@ -65,7 +65,10 @@ MessageInfo *FormatInfoData::addMessage(std::unique_ptr<MessageInfo> message)
 
 MessageInfo *FormatInfoData::findMessage(const QString &name) const
 {
-    return messagesByName.value(name);
+    MessageInfo *found = messagesByName.value(name);
+    if (found != nullptr || package.isEmpty() || !name.startsWith(package))
+        return found;
+    return messagesByName.value(name.mid(package.size()));
 }
 
 QString firstSentence(const QString &text)

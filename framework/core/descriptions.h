@@ -76,9 +76,11 @@ struct Envelope
 struct CORVANEFRAMEWORK_EXPORT FormatInfoData
 {
     MessageInfo *addMessage(std::unique_ptr<MessageInfo> message);
+    /** The type of that name, with or without the package; null where there is none. */
     MessageInfo *findMessage(const QString &name) const;
 
     QString name;
+    QString package; ///< What the names of types leave out, such as "example.".
     QStringList framings; ///< How frames can stand in a stream, the default first.
     QString framing; ///< How they do, as an overlay says; empty for the default.
     std::optional<Envelope> envelope; ///< Filled by overlays.

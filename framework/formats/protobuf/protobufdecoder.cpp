@@ -78,7 +78,7 @@ bool ProtobufDecoder::prepare() const
         return true;
     ProtobufLength length;
     const QByteArrayView rest = getRest();
-    if (toPassOver != 0
+    if (format.getRoot() == nullptr || toPassOver != 0
         || ProtobufLength::read(rest, framing, length) != ProtobufLength::Result::Length
         || length.size > maximumSize
         || static_cast<quint64>(rest.size() - length.prefixSize) < length.size)
@@ -102,6 +102,8 @@ std::optional<qint64> ProtobufDecoder::getNextTimeUs() const
 
 StreamDecoder::Step ProtobufDecoder::step()
 {
+    if (format.getRoot() == nullptr)
+        return skipRest(tr("no definitions are loaded"));
     if (toPassOver != 0)
         return passOver();
     if (prepare())
@@ -121,7 +123,7 @@ StreamDecoder::Step ProtobufDecoder::step()
     case ProtobufLength::Result::Incomplete:
         break;
     }
-    return finished ? takeEnd() : Step::NeedsBytes;
+    return finished ? skipRest(tr("the stream ends inside of a message")) : Step::NeedsBytes;
 }
 
 StreamDecoder::Step ProtobufDecoder::takeNext()
@@ -132,12 +134,19 @@ StreamDecoder::Step ProtobufDecoder::takeNext()
     if (next->content != nullptr)
         deliver(header);
     else
-        reception.skipBytes(
-            streamPosition, size,
-            tr("they are no message of type %1").arg(format.getRootInfo()->getData()->name),
-            header.timeUs);
+        reception.skipBytes(streamPosition, size, describeDamage(), header.timeUs);
     advance(size);
     return Step::Advanced;
+}
+
+QString ProtobufDecoder::describeDamage() const
+{
+    const auto bytes
+        = getRest().sliced(next->length.prefixSize, static_cast<qsizetype>(next->length.size));
+    if (ProtobufContent::isTooMuch(format.getRoot(), bytes))
+        return tr("the message would take more than %1 bytes of memory")
+            .arg(ProtobufContent::maximumMemory);
+    return tr("they are no message of type %1").arg(format.getRootInfo()->getData()->name);
 }
 
 void ProtobufDecoder::deliver(FrameHeader header)
@@ -207,12 +216,12 @@ StreamDecoder::Step ProtobufDecoder::passOver()
     return Step::Advanced;
 }
 
-StreamDecoder::Step ProtobufDecoder::takeEnd()
+StreamDecoder::Step ProtobufDecoder::skipRest(const QString &reason)
 {
     const auto rest = static_cast<size_t>(getRest().size());
     if (rest == 0)
         return Step::NeedsBytes;
-    reception.skipBytes(streamPosition, rest, tr("the stream ends inside of a message"),
+    reception.skipBytes(streamPosition, rest, reason,
                         arrivalUs.value_or(DecodedMessage::unknownTime));
     advance(rest);
     return Step::Advanced;

@@ -5,6 +5,7 @@
 #include "streamdecoder.h"
 
 #include <QByteArrayView>
+#include <QString>
 
 #include <memory>
 #include <vector>
@@ -57,13 +58,14 @@ private:
     QByteArrayView getRest() const;
     bool prepare() const;
     Step takeNext();
+    QString describeDamage() const;
     void deliver(FrameHeader header);
     void
     deliver(const FrameHeader &header, const google::protobuf::Message &message, bool confidential);
     quint32 findUnknownNumber() const;
     Step takeOversized(const ProtobufLength &length);
     Step passOver();
-    Step takeEnd();
+    Step skipRest(const QString &reason);
     void advance(size_t count);
 
     const ProtobufFormat &format;

@@ -22,9 +22,15 @@ constexpr quint64 maximumRows = 20'000;
 constexpr size_t maximumMessages = 20'000;
 constexpr size_t maximumAnyContents = 100;
 
+/** Definitions may bring an Any of their own, which need not look like one. */
 bool isAny(const Descriptor *type)
 {
-    return type->full_name() == "google.protobuf.Any";
+    const auto isSingle = [type](int number, FieldDescriptor::Type fieldType) {
+        const FieldDescriptor *field = type->FindFieldByNumber(number);
+        return field != nullptr && field->type() == fieldType && !field->is_repeated();
+    };
+    return type->full_name() == "google.protobuf.Any" && isSingle(1, FieldDescriptor::TYPE_STRING)
+           && isSingle(2, FieldDescriptor::TYPE_BYTES);
 }
 
 FieldType fieldTypeOf(const FieldDescriptor *field)
@@ -70,6 +76,8 @@ ProtobufDescriber::~ProtobufDescriber() = default;
 const MessageInfo *ProtobufDescriber::describe(const Descriptor *root)
 {
     package = root->file()->package();
+    if (!package.empty())
+        format->getData()->package = QString::fromStdString(package + '.');
     const Key key{root, 0, false};
     findCircles(root);
     for (const Descriptor *content : getAnyContents({nullptr, 0, false}))
@@ -183,7 +191,7 @@ const MessageInfo *ProtobufDescriber::makeMessage(const Key &key)
     data->format = format;
     data->main = false;
     FormatInfoData &all = *format->getData();
-    MessageInfo *first = all.findMessage(data->name);
+    MessageInfo *first = all.messagesByName.value(data->name);
     if (first != nullptr) {
         data->displayName = data->name;
         data->name += QStringLiteral("#%1").arg(first->getData()->variants.size() + 2);

@@ -161,16 +161,14 @@ ProtobufMessage::resolveAny(const google::protobuf::Message &any) const
     if (known != mainMessage->resolved.cend())
         return *known;
 
-    std::string url;
-    std::string bytes;
     const auto *reflection = any.GetReflection();
     const auto *descriptor = any.GetDescriptor();
-    url = reflection->GetString(any, descriptor->FindFieldByNumber(1));
-    bytes = reflection->GetString(any, descriptor->FindFieldByNumber(2));
+    const std::string url = reflection->GetString(any, descriptor->FindFieldByNumber(1));
+    const std::string bytes = reflection->GetString(any, descriptor->FindFieldByNumber(2));
     const ProtobufSchema &schema = mainMessage->content->getSchema();
     const auto *type = schema.findMessage(QString::fromStdString(url.substr(url.rfind('/') + 1)));
     google::protobuf::Message *inner = nullptr;
-    if (type != nullptr) {
+    if (type != nullptr && !ProtobufContent::isTooMuch(type, QByteArrayView(bytes))) {
         const google::protobuf::LogSilencer silencer;
         inner = schema.getPrototype(type)->New(mainMessage->content->getArena());
         if (!inner->ParsePartialFromString(bytes))

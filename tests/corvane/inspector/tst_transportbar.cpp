@@ -263,7 +263,7 @@ void tst_transportbar::place_isTimeSinceTheBeginning()
 void tst_transportbar::place_withoutTimes_isInBytes()
 {
     Options options = recordingOptions();
-    options.framing = MavlinkFraming::Raw;
+    options.framing = QStringLiteral("raw");
     Shown shown(options);
     const QString size = QLocale().formattedDataSize(shown.playback->getSize());
     QCOMPARE(shown.place(), QStringLiteral("0 bytes of ") + size);

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void tooLongMessage_isPassedOverWithoutBeingKept_data();
     void tooLongMessage_isPassedOverWithoutBeingKept();
     void noLength_isPassedOver();
+    void streamWithoutDefinitions_isPassedOver();
     void cutEnd_isTold_data();
     void cutEnd_isTold();
     void expandingMessage_isRefused();
@@ -220,6 +221,18 @@ void tst_ProtobufDecoder::noLength_isPassedOver()
                                           "length of a message and are none."));
 }
 
+void tst_ProtobufDecoder::streamWithoutDefinitions_isPassedOver()
+{
+    const ProtobufFormat format;
+    ProtobufRun run(format);
+    run.append(frame("x: 2", true));
+    QVERIFY(!run.getDecoder().getNextTimeUs());
+    run.finish();
+    QCOMPARE(run.getTotals().skippedBytes, 3U);
+    QCOMPARE(run.getEvents(),
+             QStringList("3 bytes from offset 0 are lost: no definitions are loaded."));
+}
+
 void tst_ProtobufDecoder::cutEnd_isTold_data()
 {
     stream_isReadInAnyPieces_data();
@@ -253,7 +266,8 @@ void tst_ProtobufDecoder::expandingMessage_isRefused()
     run.finish();
     QCOMPARE(run.getTotals().frames, 1U);
     QCOMPARE(run.getTotals().skippedBytes, static_cast<quint64>(message.size() + 4));
-    QCOMPARE(run.getEvents().size(), 1);
+    QCOMPARE(run.getEvents(), QStringList("41943044 bytes from offset 0 are lost: the message "
+                                          "would take more than 536870912 bytes of memory."));
 }
 
 void tst_ProtobufDecoder::manySmallParts_areRead()

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void withoutCase_isUnknown();
     void confidentialCase_hidesItsMessage();
     void laterEnvelope_replacesTheFirst();
+    void names_mayHaveTheirPackage();
     void framing_isTakenFromTheOverlay();
     void timeStamp_givesTheTime();
     void outOfRangeTime_isNone();
@@ -190,6 +191,16 @@ void tst_ProtobufEnvelope::laterEnvelope_replacesTheFirst()
     QCOMPARE(mainTypes(definitions),
              (QStringList{QStringLiteral("Load"), QStringLiteral("Processes")}));
     QVERIFY(load(definitions, overlayOf(R"("envelope": {"oneof": "other"})")) != QString());
+    QCOMPARE(mainTypes(definitions),
+             (QStringList{QStringLiteral("Load"), QStringLiteral("Processes")}));
+}
+
+void tst_ProtobufEnvelope::names_mayHaveTheirPackage()
+{
+    ProtobufDefinitions definitions(feed(), QStringLiteral("feed.Envelope"));
+    QCOMPARE(load(definitions, QByteArray(R"({"format": "Protocol Buffers", "messages": {)")
+                                   + R"("feed.Envelope": {"envelope": {"oneof": "content"}}}})"),
+             QString());
     QCOMPARE(mainTypes(definitions),
              (QStringList{QStringLiteral("Load"), QStringLiteral("Processes")}));
 }

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void recursion_endsWithAText();
     void subMessage_isMadeOnceAndKeepsTheMessage();
     void any_isResolvedWhenItsTypeIsKnown();
+    void any_ofAnotherShape_isAnOrdinaryMessage();
     void confidential_hidesPartsAtEveryDepth();
     void fieldOfAnotherType_hasNoValue();
     void randomMessages_equalThoseOfProtoc();
@@ -281,6 +282,21 @@ void tst_ProtobufFields::any_isResolvedWhenItsTypeIsKnown()
                      || lines.contains(QStringLiteral("  [Every]: -")),
                  qPrintable(lines.join(QLatin1Char('\n'))));
     }
+}
+
+void tst_ProtobufFields::any_ofAnotherShape_isAnOrdinaryMessage()
+{
+    ProtobufDefinitions definitions(
+        {{QStringLiteral("a.proto"),
+          QStringLiteral("syntax = \"proto3\"; import \"google/protobuf/any.proto\"; "
+                         "message A { google.protobuf.Any any = 1; }")},
+         {QStringLiteral("google/protobuf/any.proto"),
+          QStringLiteral("syntax = \"proto3\"; package google.protobuf; "
+                         "message Any { int32 type_url = 1; }")}});
+    QCOMPARE(definitions.getErrors(), QStringList());
+    const DecodedProtobuf message(definitions.getFormat(),
+                                  definitions.encode(QStringLiteral("any { type_url: 5 }")));
+    QCOMPARE(printed(message.get()), QStringLiteral("A\n  any\n    type_url: 5"));
 }
 
 void tst_ProtobufFields::confidential_hidesPartsAtEveryDepth()
