@@ -121,18 +121,31 @@ void Session::close()
 void Session::makePlayback(const Options &options)
 {
     // What is no regular file has no size, and no places to go to.
-    if (options.opensWindow() && source->getSize()) {
+    const bool isFile = options.source->kind == SourceAddress::Kind::File && source->getSize();
+    if (options.opensWindow() && isFile) {
         index = std::make_unique<FileIndex>();
         connect(index.get(), &FileIndex::failed, this,
                 [this](const QString &message) { addEvent(CorvaneEvent::Other, message); });
         playback = std::make_unique<Playback>(
             Playback::Parts{*pump, *source, *decoder, *reception, clock, *index});
-        const MavlinkFraming framing = options.framing == MavlinkFraming::Automatic
-                                           ? findFraming(format, options.source->text)
-                                           : options.framing;
-        index->start(options.source->text, std::make_unique<MavlinkScanner>(format, framing));
+        // An empty file that is followed does not show its framing yet.
+        if (*source->getSize() > 0)
+            startIndex(options);
+        else
+            connect(
+                pump.get(), &StreamPump::chunkRead, index.get(),
+                [this, options] { startIndex(options); }, Qt::SingleShotConnection);
     }
     Q_EMIT playbackChanged();
+}
+
+void Session::startIndex(const Options &options)
+{
+    const QString &path = options.source->text;
+    const MavlinkFraming framing = options.framing == MavlinkFraming::Automatic
+                                       ? findFraming(format, path)
+                                       : options.framing;
+    index->start(path, std::make_unique<MavlinkScanner>(format, framing));
 }
 
 void Session::keepOpen()

@@ -74,6 +74,7 @@ private:
     void close();
     void keepOpen();
     void makePlayback(const Options &options);
+    void startIndex(const Options &options);
     void addEvent(CorvaneEvent::Type type, const QString &text);
 
     MavlinkFormat format;
