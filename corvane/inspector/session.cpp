@@ -179,19 +179,28 @@ void Session::close()
     reception->noteDiscontinuity();
 }
 
+std::unique_ptr<StreamScanner> Session::makeScanner() const
+{
+    return format->makeScanner(headOf(options.source->text), framing);
+}
+
 void Session::makePlayback()
 {
     // What is no regular file has no size, and no places to go to.
-    auto scanner = options.opensWindow() && source->getSize()
-                       ? format->makeScanner(headOf(options.source->text), framing)
-                       : nullptr;
-    if (scanner != nullptr) {
+    const bool isFile = options.source->kind == SourceAddress::Kind::File && source->getSize();
+    if (options.opensWindow() && isFile && makeScanner() != nullptr) {
         index = std::make_unique<FileIndex>();
         connect(index.get(), &FileIndex::failed, this,
                 [this](const QString &message) { addEvent(CorvaneEvent::Other, message); });
         playback = std::make_unique<Playback>(
             Playback::Parts{*pump, *source, *decoder, *reception, clock, *index});
-        index->start(options.source->text, std::move(scanner));
+        const auto startIndex = [this] { index->start(options.source->text, makeScanner()); };
+        // An empty file that is followed does not show its framing yet.
+        if (*source->getSize() > 0)
+            startIndex();
+        else
+            connect(pump.get(), &StreamPump::chunkRead, index.get(), startIndex,
+                    Qt::SingleShotConnection);
     }
     Q_EMIT playbackChanged();
 }

@@ -21,6 +21,7 @@ class Reconnector;
 class StreamDecoder;
 class StreamFormat;
 class StreamPump;
+class StreamScanner;
 
 /** One source that is watched: its definitions, its bytes, and what was received from it. */
 class Session : public QObject
@@ -86,6 +87,7 @@ private:
     void needAllTypes();
     void close();
     void keepOpen();
+    std::unique_ptr<StreamScanner> makeScanner() const;
     void makePlayback();
     void addEvent(CorvaneEvent::Type type, const QString &text);
 

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void playback_isThereForFilesInAWindow();
     void start_again_forgetsTheFormerSource();
     void followedFile_isWatchedWhileItGrows();
+    void followedFile_mayBeEmptyAtFirst();
+    void redirectedFile_hasNoPlayback();
     void recording_hasTheBytesOfTheSource();
     void recording_toTheSourceItself_isRefused();
     void recording_failure_isInTheLog();
@@ -389,6 +391,39 @@ void tst_session::followedFile_isWatchedWhileItGrows()
     QCOMPARE(finished.size(), 0);
     session.getPlayback()->seek(0);
     QTRY_COMPARE(totals.frames, 2 * 1737U);
+}
+
+void tst_session::followedFile_mayBeEmptyAtFirst()
+{
+    const QTemporaryDir folder;
+    Options options = recordingOptions();
+    const QByteArray recording = readFile(options.source->text);
+    QFile growing(folder.filePath(QStringLiteral("growing.tlog")));
+    QVERIFY(growing.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    options.source->text = growing.fileName();
+    options.source->isFollowed = true;
+    options.speed.reset();
+    Session session;
+    session.load(options);
+    session.start(options);
+    QTest::qWait(20);
+    growing.write(recording);
+    QTRY_COMPARE(session.getReception().getTotals().frames, 1737U);
+    const FileIndex &index = session.getPlayback()->getIndex();
+    QTRY_COMPARE(index.getIndexedBytes(), recording.size());
+    QVERIFY(index.getFirstTimeUs());
+    QCOMPARE(index.findOffset(0).offset, 0);
+}
+
+void tst_session::redirectedFile_hasNoPlayback()
+{
+    Options options = recordingOptions();
+    options.source = SourceAddress::parse(QStringLiteral("-")).address;
+    Session session;
+    session.load(options);
+    session.start(options);
+    QVERIFY(!session.getPlayback());
+    session.stop();
 }
 
 void tst_session::recording_hasTheBytesOfTheSource()

@@ -112,6 +112,11 @@ private Q_SLOTS:
     void clock_pausedWithThePump();
     void clock_pausedByItself_costsNothing();
     void start_again();
+    void goal_isReachedWhilePaused();
+    void goal_isNotDelayedByTheClock();
+    void goal_waitsForTheSource();
+    void goal_endsWithTheSource();
+    void seek_ofALiveSource_isRefused();
 };
 
 void TestStreamPump::bytes_becomeFrames()
@@ -452,6 +457,75 @@ void TestStreamPump::start_again()
     QTRY_COMPARE(f.finished.size(), 2);
     QCOMPARE(f.decoder.frames, QStringList({"one", "two"}));
     QCOMPARE(f.pump.getBytesRead(), quint64(4));
+}
+
+void TestStreamPump::goal_isReachedWhilePaused()
+{
+    Fixture f;
+    QSignalSpy reached(&f.pump, &StreamPump::goalReached);
+    f.source.add("one\ntwo\nthree\n");
+    f.pump.setPaused(true);
+    f.pump.start();
+    f.pump.runUntil([&] { return f.decoder.frameCount == 2; });
+    QVERIFY(f.pump.hasGoal());
+    QTRY_COMPARE(reached.size(), 1);
+    QVERIFY(!f.pump.hasGoal());
+    QTest::qWait(20);
+    QCOMPARE(f.decoder.frames, QStringList({"one", "two"}));
+    f.pump.setPaused(false);
+    QTRY_COMPARE(f.decoder.frameCount, 3);
+    QCOMPARE(reached.size(), 1);
+}
+
+void TestStreamPump::goal_isNotDelayedByTheClock()
+{
+    ReplayClock clock;
+    Fixture f(&clock);
+    QSignalSpy reached(&f.pump, &StreamPump::goalReached);
+    f.source.add(timedLines(10, 5'000'000));
+    f.pump.start();
+    QTest::qWait(20);
+    QCOMPARE(f.decoder.frameCount, 1);
+    f.pump.runUntil([&] { return f.decoder.frameCount == 5; });
+    QTRY_COMPARE(reached.size(), 1);
+    QTest::qWait(20);
+    QCOMPARE(f.decoder.frameCount, 5);
+}
+
+void TestStreamPump::goal_waitsForTheSource()
+{
+    Fixture f;
+    f.pump.setPaused(true);
+    f.pump.start();
+    f.pump.runUntil([&] { return f.decoder.frameCount == 1; });
+    QTest::qWait(20);
+    f.source.add("one\ntwo\n");
+    QTRY_VERIFY(!f.pump.hasGoal());
+    QTest::qWait(20);
+    QCOMPARE(f.decoder.frames, QStringList({"one"}));
+}
+
+void TestStreamPump::goal_endsWithTheSource()
+{
+    Fixture f;
+    QSignalSpy reached(&f.pump, &StreamPump::goalReached);
+    f.source.add("one\n");
+    f.source.end();
+    f.pump.setPaused(true);
+    f.pump.start();
+    f.pump.runUntil([] { return false; });
+    QTRY_COMPARE(f.finished.size(), 1);
+    QVERIFY(!f.pump.hasGoal());
+    QCOMPARE(reached.size(), 0);
+}
+
+void TestStreamPump::seek_ofALiveSource_isRefused()
+{
+    Fixture f;
+    f.source.add("one\n");
+    f.pump.start();
+    QVERIFY(!f.pump.seek(0));
+    QTRY_COMPARE(f.decoder.frames, QStringList({"one"}));
 }
 
 CORVANE_TEST_MAIN(TestStreamPump)
