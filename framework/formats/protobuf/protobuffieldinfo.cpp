@@ -79,6 +79,10 @@ ProtobufFieldInfo::ProtobufFieldInfo(const FieldDescriptor *descriptor,
     : DecodedFieldInfo(type, std::move(data))
     , descriptor(descriptor)
     , owner(owner)
+    , cppType(descriptor->cpp_type())
+    , isList(descriptor->is_repeated())
+    , hasPresence(descriptor->has_presence())
+    , isMap(descriptor->is_map())
     , closedEnumeration(descriptor->cpp_type() == FieldDescriptor::CPPTYPE_ENUM
                         && descriptor->file()->syntax() == FileDescriptor::SYNTAX_PROTO2)
 {
@@ -86,14 +90,16 @@ ProtobufFieldInfo::ProtobufFieldInfo(const FieldDescriptor *descriptor,
 
 int ProtobufFieldInfo::countPresent(const Content &message) const
 {
+    if (!isList && !hasPresence)
+        return 1;
     const Reflection *reflection = message.GetReflection();
     int unused = 0;
-    if (descriptor->is_repeated()) {
+    if (isList) {
         const int count = reflection->FieldSize(message, descriptor);
         return closedEnumeration ? count + findUnknownValues(message, descriptor, -1, &unused)
                                  : count;
     }
-    if (!descriptor->has_presence() || reflection->HasField(message, descriptor))
+    if (reflection->HasField(message, descriptor))
         return 1;
     return closedEnumeration && findUnknownValues(message, descriptor, 0, &unused) != 0 ? 1 : 0;
 }
@@ -123,10 +129,9 @@ FieldValue ProtobufFieldInfo::readValue(const Message *message, unsigned int ind
     if (isStringField())
         return FieldValue::fromCharacter(
             readText(owning.getMessage()).toUcs4().value(static_cast<qsizetype>(index)));
-    if (descriptor->message_type() != nullptr && getType().getCode() != FieldType::SubMessage)
+    if (cppType == FieldDescriptor::CPPTYPE_MESSAGE && getType().getCode() != FieldType::SubMessage)
         return FieldValue::fromText(QStringLiteral("(nested too deeply to be shown)"));
-    return descriptor->is_repeated() ? readElement(owning, static_cast<int>(index))
-                                     : readSingle(owning);
+    return isList ? readElement(owning, static_cast<int>(index)) : readSingle(owning);
 }
 
 FieldValue ProtobufFieldInfo::makeSubMessage(const ProtobufMessage &owning,
@@ -140,7 +145,7 @@ FieldValue ProtobufFieldInfo::readSingle(const ProtobufMessage &owning) const
 {
     const Content &message = owning.getMessage();
     const Reflection *reflection = message.GetReflection();
-    switch (descriptor->cpp_type()) {
+    switch (cppType) {
     case FieldDescriptor::CPPTYPE_INT32:
         return FieldValue::fromSigned(reflection->GetInt32(message, descriptor), 32);
     case FieldDescriptor::CPPTYPE_INT64:
@@ -176,7 +181,7 @@ FieldValue ProtobufFieldInfo::readElement(const ProtobufMessage &owning, int ind
 {
     const Content &message = owning.getMessage();
     const Reflection *reflection = message.GetReflection();
-    switch (descriptor->cpp_type()) {
+    switch (cppType) {
     case FieldDescriptor::CPPTYPE_INT32:
         return FieldValue::fromSigned(reflection->GetRepeatedInt32(message, descriptor, index), 32);
     case FieldDescriptor::CPPTYPE_INT64:
@@ -211,9 +216,9 @@ FieldValue ProtobufFieldInfo::readElement(const ProtobufMessage &owning, int ind
                    : FieldValue::fromText(cutText(fromUtf8(text), maximumCharacters));
     }
     case FieldDescriptor::CPPTYPE_MESSAGE:
-        return makeSubMessage(owning, descriptor->is_map() ? owning.getMapEntry(descriptor, index)
-                                                           : reflection->GetRepeatedMessage(
-                                                               message, descriptor, index));
+        return makeSubMessage(owning,
+                              isMap ? owning.getMapEntry(descriptor, index)
+                                    : reflection->GetRepeatedMessage(message, descriptor, index));
     }
     return FieldValue::invalid();
 }

@@ -56,6 +56,10 @@ private:
 
     const google::protobuf::FieldDescriptor *descriptor;
     const MessageInfo *owner; ///< Not owned.
+    google::protobuf::FieldDescriptor::CppType cppType;
+    bool isList; ///< Other than isRepeated(), no string field.
+    bool hasPresence;
+    bool isMap;
     bool closedEnumeration; ///< Numbers that it does not name end among the unknown fields.
 };
 
