@@ -139,6 +139,7 @@ void writeTotals(QTextStream &out, const Reception::Totals &totals)
 
 void writeMessages(QTextStream &out, Reception &reception)
 {
+    const bool hasChecksum = reception.getTotals().crcErrors.has_value();
     out << '\n'
         << tr("     Count   CRC errors  Gaps (missing epochs)  Interval         Message") << '\n';
     for (const MessageStatistics *type : reception.getStatistics()->getAllMessageStatistics()) {
@@ -148,9 +149,11 @@ void writeMessages(QTextStream &out, Reception &reception)
         const QString interval = type->isCurrentlyRegular()
                                      ? MessageStatistics::getIntervalString(type->getLastInterval())
                                      : tr("not regular");
+        const QString crcErrors = hasChecksum ? QString::number(type->getData()->crcErrors)
+                                              : QStringLiteral("-");
         out << QStringLiteral("%1   %2  %3  %4  %5")
                    .arg(type->getData()->received, 10)
-                   .arg(type->getData()->crcErrors, 10)
+                   .arg(crcErrors, 10)
                    .arg(gaps, 21)
                    .arg(interval, -15)
                    .arg(type->getMessageName())

@@ -94,6 +94,7 @@ QWidget *WatchPanel::createChooser()
     auto *fields
         = new PathExpressionListWidget(&expression, PathExpression::FieldPart, &fieldOptions);
     fields->setAccessibleName(tr("Field"));
+    fields->setMinimumHeight(3 * fontMetrics().height());
 
     auto *combos = new QHBoxLayout;
     combos->addWidget(formats);
@@ -134,6 +135,7 @@ void WatchPanel::createTable()
 {
     table = new QTableWidget(0, ColumnCount, this);
     table->setAccessibleName(tr("Watched fields"));
+    table->setMinimumHeight(3 * fontMetrics().height());
     table->setHorizontalHeaderLabels({tr("Path"), tr("Value"), tr("Unit"), tr("State")});
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
