@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
+class Message;
 class MessageInfo;
 class MessageWidget;
 class QLabel;
@@ -25,12 +27,14 @@ public:
     void showText(const QString &title, const QString &text);
 
 private:
+    void showMessage(const Message *message);
     void setContent(const QString &title, const QString &text, const MessageInfo *type);
 
     const LatestMessages &latest;
     QLabel *heading; ///< Owned as a child.
     QLabel *description; ///< Owned as a child.
     MessageWidget *form; ///< Owned as a child.
+    QList<QLabel *> labels; ///< Owned by the form.
 };
 
 } // namespace corvane

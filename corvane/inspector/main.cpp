@@ -24,7 +24,9 @@ void print(FILE *stream, const QByteArray &text)
 
 int complain(const QString &text)
 {
-    print(stderr, QStringLiteral("corvane-inspector: %1\n").arg(text).toLocal8Bit());
+    print(stderr, QStringLiteral("corvane-inspector: %1\n")
+                      .arg(corvane::withoutControls(text))
+                      .toLocal8Bit());
     return 1;
 }
 

@@ -264,9 +264,7 @@ void OpenPanel::refreshRecent()
     const auto choices = recent.get();
     for (const SourceChoice &choice : choices) {
         auto *item = new QListWidgetItem(choice.source, recentList);
-        item->setToolTip(QStringList(choice.definitions + choice.overlays)
-                             .join(QLatin1Char('\n'))
-                             .toHtmlEscaped());
+        item->setToolTip(QStringList(choice.definitions + choice.overlays).join(QLatin1Char('\n')));
     }
     if (choices.isEmpty()) {
         auto *item

@@ -219,6 +219,14 @@ QByteArray makeTextReport(const QString &source, Reception &reception)
     writeSenders(out, reception);
     writeEvents(out, reception);
     out.flush();
+    return withoutControls(QString::fromUtf8(text)).toUtf8();
+}
+
+QString withoutControls(QString text)
+{
+    for (QChar &character : text)
+        if (character.category() == QChar::Other_Control && character != QLatin1Char('\n'))
+            character = QChar::ReplacementCharacter;
     return text;
 }
 

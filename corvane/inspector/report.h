@@ -13,4 +13,8 @@ class Reception;
 QByteArray makeJsonReport(const QString &source, Reception &reception);
 QByteArray makeTextReport(const QString &source, Reception &reception);
 
+/** \a text with U+FFFD for control characters other than line breaks, which a terminal would obey.
+ */
+QString withoutControls(QString text);
+
 } // namespace corvane

@@ -8,6 +8,7 @@
 #include "pathexpressioncombobox.h"
 #include "pathexpressionlineedit.h"
 #include "pathexpressionlistwidget.h"
+#include "steadytreewidget.h"
 
 #include <QAction>
 #include <QCompleter>
@@ -228,7 +229,15 @@ void WatchPanel::createLabel(Row &row)
         return;
     for (const MessageInfo *type : row.field->getMessageInfos())
         if (const Message *message = latest.get(type))
-            row.label->processMessage(message);
+            showValue(message, *row.label);
+}
+
+void WatchPanel::showValue(const Message *message, FieldValueLabel &label)
+{
+    label.processMessage(message);
+    // A text of any length may come, which would be laid out as a whole.
+    if (const QString text = SteadyTreeWidget::shortened(label.text()); text != label.text())
+        label.setText(text);
 }
 
 void WatchPanel::resolve()
@@ -281,7 +290,7 @@ void WatchPanel::processMessage(const Message *message)
     for (Row &row : rows) {
         if (row.field == nullptr || !row.field->occursIn(message->getInfo()))
             continue;
-        row.label->processMessage(message);
+        showValue(message, *row.label);
         row.absent = row.field->getNumberOfValues(message) == 0;
         row.sinceValue.start();
     }

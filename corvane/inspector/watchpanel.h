@@ -77,6 +77,7 @@ private:
     void completeOptions();
     void followParts();
     void createLabel(Row &row);
+    static void showValue(const Message *message, FieldValueLabel &label);
     void processMessage(const Message *message);
     void refreshStates();
     static QString getStateText(const Row &row);
