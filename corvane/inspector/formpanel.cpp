@@ -1,5 +1,6 @@
 #include "formpanel.h"
 
+#include "corvane.h"
 #include "descriptions.h"
 #include "latestmessages.h"
 #include "message.h"
@@ -42,16 +43,23 @@ FormPanel::FormPanel(const LatestMessages &latest, QWidget *parent)
     layout->addWidget(description);
     layout->addWidget(formArea, 1);
     connect(&latest, &MessageSource::newMessage, form, &MessageWidget::processMessage);
+    connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
+            &FormPanel::showLatest);
 }
 
-void FormPanel::showType(const MessageInfo *type)
+void FormPanel::showType(const MessageInfo *newType)
 {
-    if (type == nullptr) {
+    if (newType != nullptr)
+        setContent(newType->getName(), newType->getData()->description, newType);
+    else
         setContent({}, {}, nullptr);
-        return;
-    }
-    setContent(type->getName(), type->getData()->description, type);
-    if (const Message *message = latest.get(type))
+    showLatest();
+}
+
+void FormPanel::showLatest()
+{
+    const Message *message = type != nullptr ? latest.get(type) : nullptr;
+    if (message != nullptr)
         form->processMessage(message);
 }
 
@@ -60,8 +68,9 @@ void FormPanel::showText(const QString &title, const QString &text)
     setContent(title, text, nullptr);
 }
 
-void FormPanel::setContent(const QString &title, const QString &text, const MessageInfo *type)
+void FormPanel::setContent(const QString &title, const QString &text, const MessageInfo *newType)
 {
+    type = newType;
     heading->setText(title);
     description->setText(text);
     form->setMessageInfo(type);

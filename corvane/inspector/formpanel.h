@@ -25,12 +25,14 @@ public:
     void showText(const QString &title, const QString &text);
 
 private:
+    void showLatest();
     void setContent(const QString &title, const QString &text, const MessageInfo *type);
 
     const LatestMessages &latest;
     QLabel *heading; ///< Owned as a child.
     QLabel *description; ///< Owned as a child.
     MessageWidget *form; ///< Owned as a child.
+    const MessageInfo *type = nullptr; ///< Not owned.
 };
 
 } // namespace corvane

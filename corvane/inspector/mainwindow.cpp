@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "abstractplotpanel.h"
+#include "confidentialswitch.h"
 #include "eventlogpanel.h"
 #include "exportbar.h"
 #include "exportcontroller.h"
@@ -11,6 +12,7 @@
 #include "messagestatistics.h"
 #include "messagetreepanel.h"
 #include "messagetypemodel.h"
+#include "noticearea.h"
 #include "senderspanel.h"
 #include "session.h"
 #include "statisticspanel.h"
@@ -58,6 +60,8 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     , latest(new LatestMessages(session.getReception(), this))
     , types(new MessageTypeModel(*session.getReception().getStatistics(), this))
     , sortedTypes(new QSortFilterProxyModel(this))
+    , notices(new NoticeArea(this))
+    , confidential(new ConfidentialSwitch(*notices, this))
     , exports(new ExportController(session, this))
 {
     setDockNestingEnabled(true);
@@ -71,6 +75,11 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     restoreLayout();
     showChosenType();
     refreshCounts();
+}
+
+MainWindow::~MainWindow()
+{
+    delete confidential;
 }
 
 void MainWindow::createTypeView()
@@ -107,6 +116,7 @@ void MainWindow::createMenus()
     pauseAction->setCheckable(true);
     pauseAction->setShortcut(tr("Ctrl+P"));
     pauseAction->setToolTip(tr("Leave the views as they are; everything is counted all the same"));
+    viewMenu->addAction(confidential->getAction());
     viewMenu->addSeparator();
 }
 
@@ -117,6 +127,7 @@ void MainWindow::createPanels()
     auto *centre = new QWidget(this);
     auto *column = new QVBoxLayout(centre);
     column->setContentsMargins({});
+    column->addWidget(notices);
     column->addWidget(exports->getBar());
     column->addWidget(tree, 1);
     setCentralWidget(centre);

@@ -16,12 +16,14 @@ class QTreeView;
 namespace corvane {
 
 class AbstractPlotPanel;
+class ConfidentialSwitch;
 class EventLogPanel;
 class ExportController;
 class FormPanel;
 class LatestMessages;
 class MessageTreePanel;
 class MessageTypeModel;
+class NoticeArea;
 class SendersPanel;
 class Session;
 class StatisticsPanel;
@@ -36,6 +38,10 @@ class MainWindow : public QMainWindow
 public:
     /** Neither \a session nor \a settings is owned; both must outlive the window. */
     MainWindow(Session &session, QSettings &settings, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /** Where the window says things; owned by it. */
+    NoticeArea *getNotices() const { return notices; }
 
     /** Shows \a text in the bar at the bottom until the next one. */
     void showState(const QString &text);
@@ -74,6 +80,8 @@ private:
     LatestMessages *latest; ///< Owned as a child.
     MessageTypeModel *types; ///< Owned as a child.
     QSortFilterProxyModel *sortedTypes; ///< Owned as a child.
+    NoticeArea *notices; ///< Owned as a child.
+    ConfidentialSwitch *confidential; ///< Owned; gone before the views that it changes.
     ExportController *exports; ///< Owned as a child.
     QTreeView *typeView = nullptr; ///< Owned as a child.
     MessageTreePanel *tree = nullptr; ///< Owned as a child.

@@ -1,6 +1,7 @@
 #include "messagetreepanel.h"
 
 #include "catalogue.h"
+#include "corvane.h"
 #include "descriptions.h"
 #include "enumeration.h"
 #include "formatinfo.h"
@@ -120,6 +121,10 @@ void MessageTreePanel::createTree()
     tree->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     connect(&latest, &LatestMessages::typeSeen, this, &MessageTreePanel::addRow);
     connect(&latest, &MessageSource::newMessage, tree, &MessageTreeWidget::processMessage);
+    connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this, [this] {
+        for (MessageTreeWidgetItem *row : std::as_const(rows))
+            row->configureInTreeWidget();
+    });
     connect(tree, &QTreeWidget::currentItemChanged, this, &MessageTreePanel::announceChosenType);
 }
 

@@ -1,6 +1,7 @@
 #include "watchpanel.h"
 
 #include "catalogue.h"
+#include "corvane.h"
 #include "descriptions.h"
 #include "fieldvaluelabel.h"
 #include "latestmessages.h"
@@ -66,6 +67,8 @@ WatchPanel::WatchPanel(const LatestMessages &latest, QWidget *parent)
     connect(&latest, &MessageSource::newMessage, this, &WatchPanel::processMessage);
     connect(&expression, &PathExpression::partsChanged, this, &WatchPanel::followParts);
     connect(Catalogue::getInstance(), &Catalogue::changed, this, &WatchPanel::resolve);
+    connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
+            &WatchPanel::showAllLatest);
     connect(&stateTimer, &QTimer::timeout, this, &WatchPanel::refreshStates);
     stateTimer.start(stateIntervalMs);
 }
@@ -93,6 +96,7 @@ QWidget *WatchPanel::createChooser()
     auto *fields
         = new PathExpressionListWidget(&expression, PathExpression::FieldPart, &fieldOptions);
     fields->setAccessibleName(tr("Field"));
+    fields->setMinimumHeight(fontMetrics().height() * 2);
 
     auto *combos = new QHBoxLayout;
     combos->addWidget(formats);
@@ -133,6 +137,7 @@ void WatchPanel::createTable()
 {
     table = new QTableWidget(0, ColumnCount, this);
     table->setAccessibleName(tr("Watched fields"));
+    table->setMinimumHeight(fontMetrics().height() * 3);
     table->setHorizontalHeaderLabels({tr("Path"), tr("Value"), tr("Unit"), tr("State")});
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -222,11 +227,22 @@ void WatchPanel::createLabel(Row &row)
     row.label = new FieldValueLabel(row.field);
     row.label->setTextFormat(Qt::PlainText);
     row.label->setTimeOut(timeOutMs);
+    showLatest(row);
+}
+
+void WatchPanel::showLatest(const Row &row)
+{
     if (row.field == nullptr || !row.sinceValue.isValid() || row.sinceValue.hasExpired(timeOutMs))
         return;
     for (const MessageInfo *type : row.field->getMessageInfos())
         if (const Message *message = latest.get(type))
             row.label->processMessage(message);
+}
+
+void WatchPanel::showAllLatest()
+{
+    for (const Row &row : rows)
+        showLatest(row);
 }
 
 void WatchPanel::resolve()

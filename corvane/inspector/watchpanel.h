@@ -77,6 +77,8 @@ private:
     void completeOptions();
     void followParts();
     void createLabel(Row &row);
+    void showLatest(const Row &row);
+    void showAllLatest();
     void processMessage(const Message *message);
     void refreshStates();
     static QString getStateText(const Row &row);
