@@ -184,6 +184,7 @@ void ExportController::exportStatistics(const QString &file)
 void ExportController::exportEventLog(const QString &file)
 {
     exportTable(file, [this](QIODevice &device) {
+        session.getReception().flushEvents();
         return writeEventLogCsv(*session.getReception().getEventLog(), device);
     });
 }
