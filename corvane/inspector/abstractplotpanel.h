@@ -21,6 +21,8 @@ public:
     virtual void addSeries(const QString &path) = 0;
     /** While paused the picture stands still; samples are kept all the same. */
     virtual void setPaused(bool paused) = 0;
+    /** Shows times in UTC, else in the time zone of this machine. */
+    virtual void setUtc(bool utc) = 0;
     virtual void saveSettings(QSettings &settings) const = 0;
     virtual void restoreSettings(QSettings &settings) = 0;
 };

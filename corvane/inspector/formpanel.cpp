@@ -7,6 +7,7 @@
 #include "messageinfo.h"
 #include "messagewidget.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -20,10 +21,7 @@ FormPanel::FormPanel(const LatestMessages &latest, QWidget *parent)
     , description(new QLabel(this))
     , form(new MessageWidget)
 {
-    QFont headingFont = heading->font();
-    headingFont.setPointSizeF(headingFont.pointSizeF() * 1.3);
-    headingFont.setBold(true);
-    heading->setFont(headingFont);
+    fitHeading();
     heading->setTextFormat(Qt::PlainText);
     description->setTextFormat(Qt::PlainText);
     description->setWordWrap(true);
@@ -45,6 +43,21 @@ FormPanel::FormPanel(const LatestMessages &latest, QWidget *parent)
     connect(&latest, &MessageSource::newMessage, form, &MessageWidget::processMessage);
     connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
             &FormPanel::showLatest);
+}
+
+void FormPanel::fitHeading()
+{
+    QFont headingFont = font();
+    headingFont.setPointSizeF(headingFont.pointSizeF() * 1.3);
+    headingFont.setBold(true);
+    heading->setFont(headingFont);
+}
+
+void FormPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitHeading();
 }
 
 void FormPanel::showType(const MessageInfo *newType)

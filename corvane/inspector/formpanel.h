@@ -24,7 +24,11 @@ public:
     /** Says \a text instead of a form, under \a title. */
     void showText(const QString &title, const QString &text);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void fitHeading();
     void showLatest();
     void setContent(const QString &title, const QString &text, const MessageInfo *type);
 

@@ -17,6 +17,7 @@
 #include "session.h"
 #include "statisticspanel.h"
 #include "transportbar.h"
+#include "viewsettings.h"
 #include "watchpanel.h"
 
 #include <QCloseEvent>
@@ -37,9 +38,6 @@
 namespace corvane {
 
 namespace {
-
-// Counts need no more than the eye does; every message is counted all the same.
-constexpr int countsIntervalMs = 250;
 
 QString geometryKey()
 {
@@ -62,6 +60,7 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     , sortedTypes(new QSortFilterProxyModel(this))
     , notices(new NoticeArea(this))
     , confidential(new ConfidentialSwitch(*notices, this))
+    , viewSettings(new ViewSettings(settings, this))
     , exports(new ExportController(session, this))
 {
     setDockNestingEnabled(true);
@@ -73,6 +72,7 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     connectAll();
     resize(fontMetrics().averageCharWidth() * 230, fontMetrics().height() * 55);
     restoreLayout();
+    applyViewSettings();
     showChosenType();
     refreshCounts();
 }
@@ -118,6 +118,8 @@ void MainWindow::createMenus()
     pauseAction->setToolTip(tr("Leave the views as they are; everything is counted all the same"));
     viewMenu->addAction(confidential->getAction());
     viewMenu->addSeparator();
+    viewSettings->addTo(*viewMenu);
+    viewMenu->addSeparator();
 }
 
 void MainWindow::createPanels()
@@ -147,7 +149,7 @@ void MainWindow::createPanels()
     Reception &reception = session.getReception();
     statistics = new StatisticsPanel(*reception.getStatistics());
     senders = new SendersPanel(reception);
-    auto *events = new EventLogPanel(*reception.getEventLog());
+    events = new EventLogPanel(*reception.getEventLog());
     QDockWidget *statisticsDock = addPanel(statistics, QStringLiteral("statistics"),
                                            tr("Statistics"), Qt::BottomDockWidgetArea);
     QDockWidget *eventsDock
@@ -242,7 +244,7 @@ void MainWindow::connectAll()
     connect(tree, &MessageTreePanel::typeChosen, this, &MainWindow::chooseType);
     connect(pauseAction, &QAction::toggled, this, &MainWindow::setPaused);
     connect(&countsTimer, &QTimer::timeout, this, &MainWindow::refreshCounts);
-    countsTimer.start(countsIntervalMs);
+    connect(viewSettings, &ViewSettings::changed, this, &MainWindow::applyViewSettings);
     sinceCounts.start();
 }
 
@@ -251,6 +253,22 @@ void MainWindow::setPaused(bool paused)
     framesAtPause = session.getReception().getTotals().frames;
     latest->setPaused(paused);
     refreshCounts();
+}
+
+void MainWindow::applyViewSettings()
+{
+    countsTimer.start(viewSettings->getRefreshMs());
+    events->setUtc(viewSettings->isUtc());
+    transport->setUtc(viewSettings->isUtc());
+    QFont viewFont = font();
+    viewFont.setPointSizeF(viewFont.pointSizeF() * viewSettings->getZoom() / 100.0);
+    for (QWidget *view :
+         std::initializer_list<QWidget *>{typeView, tree, form, watch, statistics, senders, events})
+        view->setFont(viewFont);
+    if (plot == nullptr)
+        return;
+    plot->setUtc(viewSettings->isUtc());
+    plot->setFont(viewFont);
 }
 
 void MainWindow::showState(const QString &text)

@@ -28,6 +28,7 @@ class SendersPanel;
 class Session;
 class StatisticsPanel;
 class TransportBar;
+class ViewSettings;
 class WatchPanel;
 
 /** The inspector's window: panels that each show another side of what is received, live. */
@@ -72,6 +73,7 @@ private:
     void showChosenType();
     void chooseType(const MessageInfo *type);
     void setPaused(bool paused);
+    void applyViewSettings();
     void refreshCounts();
     QString getPlaceholderText() const;
 
@@ -82,12 +84,14 @@ private:
     QSortFilterProxyModel *sortedTypes; ///< Owned as a child.
     NoticeArea *notices; ///< Owned as a child.
     ConfidentialSwitch *confidential; ///< Owned; gone before the views that it changes.
+    ViewSettings *viewSettings; ///< Owned as a child.
     ExportController *exports; ///< Owned as a child.
     QTreeView *typeView = nullptr; ///< Owned as a child.
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.
     WatchPanel *watch = nullptr; ///< Owned as a child.
     StatisticsPanel *statistics = nullptr; ///< Owned as a child.
+    EventLogPanel *events = nullptr; ///< Owned as a child.
     SendersPanel *senders = nullptr; ///< Owned as a child.
     AbstractPlotPanel *plot = nullptr; ///< Owned as a child; null in a build without it.
     TransportBar *transport = nullptr; ///< Owned as a child.

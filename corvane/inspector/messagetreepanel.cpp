@@ -146,16 +146,20 @@ void MessageTreePanel::createMenu()
     menu->addActions(tree->getToggleColumnActions());
     menu->addAction(history->getAction());
     menu->addSeparator();
-    const auto addSwitch = [this](const QString &text, bool on, auto receiver, auto slot) {
-        QAction *action = menu->addAction(text);
-        action->setCheckable(true);
-        action->setChecked(on);
-        connect(action, &QAction::toggled, receiver, slot);
-    };
-    addSwitch(tr("&Computed Fields"), true, tree, &MessageTreeWidget::setShowVirtualFields);
-    addSwitch(tr("&Secondary Fields"), true, tree,
+    const auto addSwitch
+        = [this](const QString &name, const QString &text, bool on, auto receiver, auto slot) {
+              QAction *action = menu->addAction(text);
+              action->setObjectName(name);
+              action->setCheckable(true);
+              action->setChecked(on);
+              connect(action, &QAction::toggled, receiver, slot);
+          };
+    addSwitch(QStringLiteral("showVirtual"), tr("&Computed Fields"), true, tree,
+              &MessageTreeWidget::setShowVirtualFields);
+    addSwitch(QStringLiteral("showSecondary"), tr("&Secondary Fields"), true, tree,
               [this](bool shown) { tree->setShowPrimaryFieldsOnly(!shown); });
-    addSwitch(tr("All &Known Message Types"), false, this, &MessageTreePanel::setAllTypesShown);
+    addSwitch(QStringLiteral("showAllTypes"), tr("All &Known Message Types"), false, this,
+              &MessageTreePanel::setAllTypesShown);
     menu->addSeparator();
     menu->addAction(tr("&Expand All"), tree, &QTreeWidget::expandAll);
     menu->addAction(tr("C&ollapse All"), tree, &QTreeWidget::collapseAll);
@@ -177,6 +181,9 @@ void MessageTreePanel::restoreSettings(QSettings &settings)
     }
     tree->loadExpansionState(settings);
     history->followColumns();
+    for (QAction *action : menu->actions())
+        if (action->isCheckable() && settings.contains(action->objectName()))
+            action->setChecked(settings.value(action->objectName()).toBool());
     settings.endGroup();
 }
 
@@ -185,6 +192,9 @@ void MessageTreePanel::saveSettings(QSettings &settings)
     settings.beginGroup(settingsGroup());
     tree->saveSettings(settings);
     tree->saveExpansionState(settings);
+    for (const QAction *action : menu->actions())
+        if (!action->objectName().isEmpty())
+            settings.setValue(action->objectName(), action->isChecked());
     settings.endGroup();
 }
 

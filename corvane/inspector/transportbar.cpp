@@ -172,6 +172,12 @@ void TransportBar::setPlayback(Playback *newPlayback)
     toggleViewAction()->setVisible(playback != nullptr);
 }
 
+void TransportBar::setUtc(bool newUtc)
+{
+    utc = newUtc;
+    showPlace();
+}
+
 void TransportBar::connectPlayback()
 {
     connect(playback, &Playback::stateChanged, this, &TransportBar::showState);
@@ -298,7 +304,8 @@ void TransportBar::showPlace()
     placeLabel->setText(getPlaceText());
     const std::optional<qint64> timeUs = playback->getTimeUs();
     placeLabel->setToolTip(
-        timeUs ? QDateTime::fromMSecsSinceEpoch(*timeUs / 1000, Qt::UTC).toString(Qt::ISODateWithMs)
+        timeUs ? QDateTime::fromMSecsSinceEpoch(*timeUs / 1000, utc ? Qt::UTC : Qt::LocalTime)
+                     .toString(Qt::ISODateWithMs)
                : QString());
 }
 

@@ -12,6 +12,7 @@
 
 #include <QAction>
 #include <QCompleter>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -143,6 +144,8 @@ void WatchPanel::createTable()
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->verticalHeader()->hide();
+    table->verticalHeader()->setMinimumSectionSize(0);
+    fitRowHeight();
     table->horizontalHeader()->setStretchLastSection(true);
     table->setColumnWidth(PathColumn, fontMetrics().averageCharWidth() * 36);
     table->setColumnWidth(ValueColumn, fontMetrics().averageCharWidth() * 20);
@@ -152,6 +155,18 @@ void WatchPanel::createTable()
     connect(remove, &QAction::triggered, this, &WatchPanel::removeCurrent);
     table->addAction(remove);
     table->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void WatchPanel::fitRowHeight()
+{
+    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+}
+
+void WatchPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitRowHeight();
 }
 
 void WatchPanel::completeOptions()

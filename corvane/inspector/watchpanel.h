@@ -50,6 +50,9 @@ public:
     /** Fields that are not known are kept, and watched once their definitions are loaded. */
     void restoreSettings(QSettings &settings);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     enum Column {
         PathColumn,
@@ -72,6 +75,7 @@ private:
     QWidget *createButtons();
     void createTable();
     void add(const QString &path);
+    void fitRowHeight();
     void fillTable();
     void resolve();
     void completeOptions();

@@ -312,6 +312,12 @@ void PlotPanel::setPaused(bool pause)
     refreshTexts();
 }
 
+void PlotPanel::setUtc(bool utc)
+{
+    view->setUtc(utc);
+    refreshTexts();
+}
+
 void PlotPanel::processMessage(const Message *message)
 {
     const quint32 slot = message->getInfo()->getData()->slot;

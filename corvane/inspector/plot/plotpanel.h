@@ -39,6 +39,7 @@ public:
 
     void addSeries(const QString &path) override;
     void setPaused(bool paused) override;
+    void setUtc(bool utc) override;
     void saveSettings(QSettings &settings) const override;
     /** Fields that are not known are kept, and plotted once their definitions are loaded. */
     void restoreSettings(QSettings &settings) override;
