@@ -16,7 +16,8 @@
 
 #include <QDateTime>
 #include <QFile>
-#include <QFileInfo>
+
+#include <sys/stat.h>
 
 #include <algorithm>
 
@@ -49,6 +50,16 @@ QByteArray headOf(const QString &path)
     constexpr qint64 enoughBytes = 64 * 1024;
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.read(enoughBytes) : QByteArray();
+}
+
+/** Whether both names lead to the same file, be it by a link. */
+bool isSameFile(const QString &one, const QString &other)
+{
+    struct stat first = {};
+    struct stat second = {};
+    return ::stat(QFile::encodeName(one).constData(), &first) == 0
+           && ::stat(QFile::encodeName(other).constData(), &second) == 0
+           && first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
 } // namespace
@@ -246,8 +257,7 @@ void Session::stop()
 
 QString Session::startRecording(const QString &path)
 {
-    const QFileInfo file(path);
-    if (source && source->getSize() && file == QFileInfo(source->getName()))
+    if (source && source->getSize() && isSameFile(path, source->getName()))
         return tr("Cannot record to \"%1\": it is the file that is being read. Choose another "
                   "name.")
             .arg(path);
