@@ -1,6 +1,7 @@
 #include "confidentialswitch.h"
 
 #include "corvane.h"
+#include "icons.h"
 #include "noticearea.h"
 
 #include <QAction>
@@ -21,6 +22,7 @@ ConfidentialSwitch::ConfidentialSwitch(NoticeArea &notices, QObject *parent)
     , notices(notices)
     , action(new QAction(tr("Show &Confidential Fields"), this))
 {
+    action->setIcon(makeIcon(QStringLiteral("view-confidential")));
     action->setCheckable(true);
     action->setToolTip(tr("Show the content of fields that are marked as confidential"));
     connect(action, &QAction::toggled, this, &ConfidentialSwitch::take);

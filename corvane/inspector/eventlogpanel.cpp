@@ -82,6 +82,7 @@ EventLogPanel::EventLogPanel(EventLog &log, QWidget *parent)
 void EventLogPanel::createTable()
 {
     table->setAccessibleName(tr("Event log"));
+    table->setMinimumHeight(fontMetrics().height() * 3);
     table->setWordWrap(false);
     table->setShowGrid(false);
     table->setAlternatingRowColors(true);

@@ -3,6 +3,7 @@
 #include "exportbar.h"
 #include "exportdialog.h"
 #include "exportjob.h"
+#include "icons.h"
 #include "receptioncsv.h"
 #include "session.h"
 
@@ -40,6 +41,7 @@ ExportController::ExportController(Session &session, QWidget *window)
                                   tr("Write messages or some of their fields as CSV or JSON lines"),
                                   &ExportController::askForMessages);
     messages->setShortcut(tr("Ctrl+E"));
+    messages->setIcon(makeIcon(QStringLiteral("document-export")));
     addAction(tr("Export &Statistics..."), tr("Write the counts of all message types as CSV"),
               &ExportController::askForStatistics);
     addAction(tr("Export Event &Log..."), tr("Write the event log as CSV"),

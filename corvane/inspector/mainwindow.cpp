@@ -7,12 +7,14 @@
 #include "exportcontroller.h"
 #include "formpanel.h"
 #include "hostfeed.h"
+#include "icons.h"
 #include "latestmessages.h"
 #include "messageinfo.h"
 #include "messagestatistics.h"
 #include "messagetreepanel.h"
 #include "messagetypemodel.h"
 #include "noticearea.h"
+#include "recordcontroller.h"
 #include "senderspanel.h"
 #include "session.h"
 #include "statisticspanel.h"
@@ -32,6 +34,7 @@
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -61,12 +64,15 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     , notices(new NoticeArea(this))
     , confidential(new ConfidentialSwitch(*notices, this))
     , viewSettings(new ViewSettings(settings, this))
+    , record(new RecordController(session, *notices, this))
     , exports(new ExportController(session, this))
 {
     setDockNestingEnabled(true);
     setAcceptDrops(true);
     createTypeView();
+    createActions();
     createMenus();
+    createToolBar();
     createPanels();
     createStatusBar();
     connectAll();
@@ -93,6 +99,7 @@ void MainWindow::createTypeView()
     typeView->setModel(sortedTypes);
     typeView->setRootIsDecorated(false);
     typeView->setUniformRowHeights(true);
+    typeView->setMinimumHeight(fontMetrics().height() * 3);
     typeView->setSortingEnabled(true);
     typeView->sortByColumn(MessageTypeModel::NameColumn, Qt::AscendingOrder);
     typeView->header()->setStretchLastSection(false);
@@ -101,21 +108,41 @@ void MainWindow::createTypeView()
                                       fontMetrics().averageCharWidth() * 14);
 }
 
+void MainWindow::createActions()
+{
+    openAction = new QAction(makeIcon(QStringLiteral("document-open")), tr("&Open…"), this);
+    openAction->setShortcut(QKeySequence::Open);
+    openAction->setToolTip(tr("Choose another source, or other definitions"));
+    connect(openAction, &QAction::triggered, this, &MainWindow::openRequested);
+    pauseAction = new QAction(makeIcon(QStringLiteral("media-playback-pause")),
+                              tr("&Pause the Views"), this);
+    pauseAction->setCheckable(true);
+    pauseAction->setShortcut(tr("Ctrl+P"));
+    pauseAction->setToolTip(tr("Leave the views as they are; everything is counted all the same"));
+}
+
+void MainWindow::createToolBar()
+{
+    auto *bar = new QToolBar(tr("Tools"), this);
+    bar->setObjectName(QStringLiteral("tools"));
+    bar->addActions({openAction, record->getAction(), exports->getActions().constFirst()});
+    bar->addSeparator();
+    bar->addActions({pauseAction, confidential->getAction()});
+    addToolBar(bar);
+    viewMenu->addAction(bar->toggleViewAction());
+}
+
 void MainWindow::createMenus()
 {
     QMenu *fileMenu = menuBar()->addMenu(tr("&File"));
-    QAction *open = fileMenu->addAction(tr("&Open…"), this, &MainWindow::openRequested);
-    open->setShortcut(QKeySequence::Open);
-    open->setToolTip(tr("Choose another source, or other definitions"));
+    fileMenu->addAction(openAction);
+    fileMenu->addAction(record->getAction());
     fileMenu->addActions(exports->getActions());
     fileMenu->addSeparator();
     QAction *quit = fileMenu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence::Quit);
     viewMenu = menuBar()->addMenu(tr("&View"));
-    pauseAction = viewMenu->addAction(tr("&Pause the Views"));
-    pauseAction->setCheckable(true);
-    pauseAction->setShortcut(tr("Ctrl+P"));
-    pauseAction->setToolTip(tr("Leave the views as they are; everything is counted all the same"));
+    viewMenu->addAction(pauseAction);
     viewMenu->addAction(confidential->getAction());
     viewMenu->addSeparator();
     viewSettings->addTo(*viewMenu);

@@ -24,6 +24,7 @@ class LatestMessages;
 class MessageTreePanel;
 class MessageTypeModel;
 class NoticeArea;
+class RecordController;
 class SendersPanel;
 class Session;
 class StatisticsPanel;
@@ -63,7 +64,9 @@ private:
     void createTypeView();
     void createPanels();
     void createPlot(QDockWidget *neighbour);
+    void createActions();
     void createMenus();
+    void createToolBar();
     void createStatusBar();
     void connectAll();
     QDockWidget *
@@ -85,6 +88,7 @@ private:
     NoticeArea *notices; ///< Owned as a child.
     ConfidentialSwitch *confidential; ///< Owned; gone before the views that it changes.
     ViewSettings *viewSettings; ///< Owned as a child.
+    RecordController *record; ///< Owned as a child.
     ExportController *exports; ///< Owned as a child.
     QTreeView *typeView = nullptr; ///< Owned as a child.
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
@@ -96,6 +100,7 @@ private:
     AbstractPlotPanel *plot = nullptr; ///< Owned as a child; null in a build without it.
     TransportBar *transport = nullptr; ///< Owned as a child.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
+    QAction *openAction = nullptr; ///< Owned as a child.
     QAction *pauseAction = nullptr; ///< Owned as a child.
     QLabel *stateLabel = nullptr; ///< Owned as a child.
     QLabel *totalsLabel = nullptr; ///< Owned as a child.

@@ -43,7 +43,8 @@ void NoticeArea::say(const QString &name,
     lineLayout->addWidget(label, 1);
     for (const Button &button : buttons)
         addButton(*lineLayout, name, button);
-    addButton(*lineLayout, name, {closeText, [] {}});
+    if (!closeText.isEmpty())
+        addButton(*lineLayout, name, {closeText, [] {}});
     layout()->addWidget(line);
     notices.push_back({name, line, label, buttonTexts});
     line->show();

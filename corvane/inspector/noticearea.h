@@ -28,8 +28,8 @@ public:
     explicit NoticeArea(QWidget *parent = nullptr);
 
     /**
-     * Says \a text, in place of what was said under \a name before. The last button closes the
-     * line and does nothing else.
+     * Says \a text, in place of what was said under \a name before. The last button, which is
+     * left out if \a closeText is empty, closes the line and does nothing else.
      */
     void say(const QString &name,
              const QString &text,

@@ -22,6 +22,7 @@ SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
     hint->setMargin(fontMetrics().height() / 2);
     tree->setAccessibleName(tr("Senders"));
     tree->setUniformRowHeights(true);
+    tree->setMinimumHeight(fontMetrics().height() * 3);
     tree->setHeaderLabels(
         {tr("Sender"), tr("Frames"), tr("Places with losses"), tr("Lost"), tr("CRC errors")});
     tree->headerItem()->setToolTip(SenderColumn,

@@ -60,6 +60,8 @@ WatchPanel::WatchPanel(const LatestMessages &latest, QWidget *parent)
     notice->setTextFormat(Qt::PlainText);
     notice->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(fontMetrics().height() / 4);
     layout->addWidget(splitter, 1);
     layout->addWidget(createButtons());
     layout->addWidget(notice);
@@ -104,6 +106,7 @@ QWidget *WatchPanel::createChooser()
     combos->addWidget(messages, 1);
     auto *layout = new QVBoxLayout(chooser);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(fontMetrics().height() / 4);
     layout->addWidget(edit);
     layout->addLayout(combos);
     layout->addWidget(fields, 1);

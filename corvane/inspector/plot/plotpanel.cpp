@@ -127,6 +127,8 @@ PlotPanel::PlotPanel(MessageSource &messages, QWidget *parent)
     auto *splitter = new QSplitter(this);
     splitter->addWidget(view);
     splitter->addWidget(legend);
+    for (QWidget *part : std::initializer_list<QWidget *>{view, legend})
+        part->setMinimumHeight(fontMetrics().height() * 3);
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 2);
     splitter->setSizes({3000, 2000}); // which it scales to its own size
