@@ -41,6 +41,7 @@ FormPanel::FormPanel(const LatestMessages &latest, QWidget *parent)
     layout->addWidget(description);
     layout->addWidget(formArea, 1);
     connect(&latest, &MessageSource::newMessage, form, &MessageWidget::processMessage);
+    connect(&latest, &LatestMessages::senderChanged, form, &MessageWidget::clearValues);
     connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
             &FormPanel::showLatest);
 }

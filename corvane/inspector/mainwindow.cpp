@@ -2,6 +2,7 @@
 
 #include "abstractplotpanel.h"
 #include "confidentialswitch.h"
+#include "elidinglabel.h"
 #include "eventlogpanel.h"
 #include "exportbar.h"
 #include "exportcontroller.h"
@@ -15,9 +16,11 @@
 #include "messagetypemodel.h"
 #include "noticearea.h"
 #include "recordcontroller.h"
+#include "senderchooser.h"
 #include "senderspanel.h"
 #include "session.h"
 #include "statisticspanel.h"
+#include "statusfigures.h"
 #include "transportbar.h"
 #include "viewsettings.h"
 #include "watchpanel.h"
@@ -27,8 +30,6 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLocale>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QSettings>
@@ -128,6 +129,9 @@ void MainWindow::createToolBar()
     bar->addActions({openAction, record->getAction(), exports->getActions().constFirst()});
     bar->addSeparator();
     bar->addActions({pauseAction, confidential->getAction()});
+    bar->addSeparator();
+    senderChooser = new SenderChooser(session.getReception().getSenders(), bar);
+    senderAction = bar->addWidget(senderChooser);
     addToolBar(bar);
     viewMenu->addAction(bar->toggleViewAction());
 }
@@ -252,12 +256,10 @@ void MainWindow::dropEvent(QDropEvent *event)
 
 void MainWindow::createStatusBar()
 {
-    stateLabel = new QLabel(this);
-    stateLabel->setTextFormat(Qt::PlainText);
-    totalsLabel = new QLabel(this);
-    totalsLabel->setTextFormat(Qt::PlainText);
+    stateLabel = new ElidingLabel(this);
+    figures = new StatusFigures(session, this);
     statusBar()->addWidget(stateLabel, 1);
-    statusBar()->addPermanentWidget(totalsLabel);
+    statusBar()->addPermanentWidget(figures);
 }
 
 void MainWindow::connectAll()
@@ -269,17 +271,25 @@ void MainWindow::connectAll()
             [this] { transport->setPlayback(this->session.getPlayback()); });
     transport->setPlayback(session.getPlayback());
     connect(tree, &MessageTreePanel::typeChosen, this, &MainWindow::chooseType);
+    connect(senders, &SendersPanel::senderChosen, senderChooser, &SenderChooser::choose);
+    connect(senderChooser, &SenderChooser::chosen, this, &MainWindow::chooseSender);
     connect(pauseAction, &QAction::toggled, this, &MainWindow::setPaused);
     connect(&countsTimer, &QTimer::timeout, this, &MainWindow::refreshCounts);
     connect(viewSettings, &ViewSettings::changed, this, &MainWindow::applyViewSettings);
-    sinceCounts.start();
 }
 
 void MainWindow::setPaused(bool paused)
 {
-    framesAtPause = session.getReception().getTotals().frames;
     latest->setPaused(paused);
+    figures->setPaused(paused);
     refreshCounts();
+}
+
+void MainWindow::chooseSender(std::optional<quint32> sender)
+{
+    latest->setSender(sender);
+    if (plot != nullptr)
+        plot->setSender(sender);
 }
 
 void MainWindow::applyViewSettings()
@@ -300,7 +310,7 @@ void MainWindow::applyViewSettings()
 
 void MainWindow::showState(const QString &text)
 {
-    stateLabel->setText(text);
+    stateLabel->say(text);
 }
 
 void MainWindow::chooseFirstType()
@@ -348,23 +358,9 @@ void MainWindow::refreshCounts()
         statistics->refresh();
         senders->refresh();
     }
-    const Reception::Totals &totals = session.getReception().getTotals();
-    const double seconds = static_cast<double>(sinceCounts.restart()) / 1000.0;
-    const auto newFrames = static_cast<double>(totals.frames - framesAtCounts);
-    framesAtCounts = totals.frames;
-    const QLocale locale;
-    QString text = tr("Messages: %1 (%2 per second)")
-                       .arg(locale.toString(totals.frames),
-                            locale.toString(seconds > 0 ? qRound64(newFrames / seconds) : 0));
-    if (totals.crcErrors.value_or(0) > 0)
-        text += tr(", CRC errors: %1").arg(locale.toString(*totals.crcErrors));
-    if (totals.unknownFrames > 0)
-        text += tr(", unknown: %1").arg(locale.toString(totals.unknownFrames));
-    if (const auto dropped = session.getDroppedCount(); dropped.value_or(0) > 0)
-        text += tr(", datagrams dropped: %1").arg(locale.toString(*dropped));
-    if (latest->isPaused())
-        text = tr("Paused, new: %1; ").arg(locale.toString(totals.frames - framesAtPause)) + text;
-    totalsLabel->setText(text);
+    figures->refresh();
+    senderChooser->refresh();
+    senderAction->setVisible(senderChooser->hasChoice());
 }
 
 } // namespace corvane

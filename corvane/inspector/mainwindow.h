@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
+
+#include <optional>
 
 class MessageInfo;
 class QAction;
 class QDockWidget;
-class QLabel;
 class QMenu;
 class QSettings;
 class QSortFilterProxyModel;
@@ -17,6 +17,7 @@ namespace corvane {
 
 class AbstractPlotPanel;
 class ConfidentialSwitch;
+class ElidingLabel;
 class EventLogPanel;
 class ExportController;
 class FormPanel;
@@ -26,8 +27,10 @@ class MessageTypeModel;
 class NoticeArea;
 class RecordController;
 class SendersPanel;
+class SenderChooser;
 class Session;
 class StatisticsPanel;
+class StatusFigures;
 class TransportBar;
 class ViewSettings;
 class WatchPanel;
@@ -76,6 +79,7 @@ private:
     void showChosenType();
     void chooseType(const MessageInfo *type);
     void setPaused(bool paused);
+    void chooseSender(std::optional<quint32> sender);
     void applyViewSettings();
     void refreshCounts();
     QString getPlaceholderText() const;
@@ -100,14 +104,13 @@ private:
     AbstractPlotPanel *plot = nullptr; ///< Owned as a child; null in a build without it.
     TransportBar *transport = nullptr; ///< Owned as a child.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
+    SenderChooser *senderChooser = nullptr; ///< Owned as a child.
+    QAction *senderAction = nullptr; ///< Shows and hides the chooser. Owned as a child.
     QAction *openAction = nullptr; ///< Owned as a child.
     QAction *pauseAction = nullptr; ///< Owned as a child.
-    QLabel *stateLabel = nullptr; ///< Owned as a child.
-    QLabel *totalsLabel = nullptr; ///< Owned as a child.
+    ElidingLabel *stateLabel = nullptr; ///< Owned as a child.
+    StatusFigures *figures = nullptr; ///< Owned as a child.
     QTimer countsTimer;
-    QElapsedTimer sinceCounts;
-    quint64 framesAtCounts = 0;
-    quint64 framesAtPause = 0;
 };
 
 } // namespace corvane

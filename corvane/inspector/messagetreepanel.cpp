@@ -125,6 +125,10 @@ void MessageTreePanel::createTree()
         for (MessageTreeWidgetItem *row : std::as_const(rows))
             row->configureInTreeWidget();
     });
+    connect(&latest, &LatestMessages::senderChanged, this, [this] {
+        for (MessageTreeWidgetItem *row : std::as_const(rows))
+            row->clearValues();
+    });
     connect(tree, &QTreeWidget::currentItemChanged, this, &MessageTreePanel::announceChosenType);
 }
 

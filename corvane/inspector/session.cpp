@@ -269,6 +269,11 @@ QString Session::getSourceName() const
     return source ? source->getName() : QString();
 }
 
+std::optional<qint64> Session::getBacklogBytes() const
+{
+    return source ? source->getWaitingBytes() : std::nullopt;
+}
+
 std::optional<quint64> Session::getDroppedCount() const
 {
     return source ? source->getDroppedCount() : std::nullopt;

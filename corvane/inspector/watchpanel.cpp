@@ -68,6 +68,7 @@ WatchPanel::WatchPanel(const LatestMessages &latest, QWidget *parent)
     say(tr("Type the path of a field and press Enter, or pick one and press Watch."));
 
     connect(&latest, &MessageSource::newMessage, this, &WatchPanel::processMessage);
+    connect(&latest, &LatestMessages::senderChanged, this, &WatchPanel::forgetValues);
     connect(&expression, &PathExpression::partsChanged, this, &WatchPanel::followParts);
     connect(Catalogue::getInstance(), &Catalogue::changed, this, &WatchPanel::resolve);
     connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
@@ -261,6 +262,16 @@ void WatchPanel::showAllLatest()
 {
     for (const Row &row : rows)
         showLatest(row);
+}
+
+void WatchPanel::forgetValues()
+{
+    for (Row &row : rows) {
+        row.sinceValue.invalidate();
+        row.absent = false;
+        row.label->clearValue();
+    }
+    refreshStates();
 }
 
 void WatchPanel::resolve()

@@ -83,6 +83,7 @@ private:
     void createLabel(Row &row);
     void showLatest(const Row &row);
     void showAllLatest();
+    void forgetValues();
     void processMessage(const Message *message);
     void refreshStates();
     static QString getStateText(const Row &row);

@@ -314,6 +314,15 @@ void PlotPanel::setPaused(bool pause)
     refreshTexts();
 }
 
+void PlotPanel::setSender(std::optional<quint32> newSender)
+{
+    sender = newSender;
+    for (const auto &one : series)
+        one->forgetValues();
+    view->requestRefresh();
+    refreshTexts();
+}
+
 void PlotPanel::setUtc(bool utc)
 {
     view->setUtc(utc);
@@ -325,7 +334,10 @@ void PlotPanel::processMessage(const Message *message)
     const quint32 slot = message->getInfo()->getData()->slot;
     if (slot >= seriesBySlot.size() || seriesBySlot[slot].empty())
         return;
-    qint64 timeUs = static_cast<const DecodedMessage *>(message)->getTimeUs();
+    const auto *decoded = static_cast<const DecodedMessage *>(message);
+    if (sender && decoded->getSenderId() != *sender)
+        return;
+    qint64 timeUs = decoded->getTimeUs();
     if (timeUs == DecodedMessage::unknownTime)
         timeUs = nowUs();
     for (PlotSeries *one : seriesBySlot[slot])

@@ -14,6 +14,7 @@
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
@@ -38,6 +39,8 @@ private Q_SLOTS:
     void countHeader_clicked_sortsByNumber();
     void darkPalette_isFollowed();
     void totals_nameDamage();
+    void figures_tellOfTheLongestRound();
+    void statusBar_neverWidensTheWindow();
     void paused_viewsStandStillAndTheBarSaysWhatCame();
     void plot_isAPanelOrSaysThatItIsMissing();
     void plot_isPausedAndRemembered();
@@ -133,6 +136,28 @@ void tst_mainwindow::totals_nameDamage()
 {
     const ShownWindow shown;
     QTRY_VERIFY(shown.says(QStringLiteral("CRC errors: 1")));
+}
+
+void tst_mainwindow::figures_tellOfTheLongestRound()
+{
+    const ShownWindow shown;
+    const QRegularExpression text(QStringLiteral("^Longest round: [1-9]\\d* ms$"));
+    const auto isTold = [&] {
+        const auto labels = shown.window->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(), [&](const QLabel *label) {
+            return text.match(label->text()).hasMatch();
+        });
+    };
+    QTRY_VERIFY(isTold());
+}
+
+void tst_mainwindow::statusBar_neverWidensTheWindow()
+{
+    const ShownWindow shown;
+    const int before = shown.window->minimumSizeHint().width();
+    shown.window->showState(QString(2000, QLatin1Char('m')));
+    QCoreApplication::processEvents();
+    QCOMPARE(shown.window->minimumSizeHint().width(), before);
 }
 
 void tst_mainwindow::paused_viewsStandStillAndTheBarSaysWhatCame()
