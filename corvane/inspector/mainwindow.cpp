@@ -1,16 +1,19 @@
 #include "mainwindow.h"
 
 #include "abstractplotpanel.h"
+#include "bytespanel.h"
 #include "eventlogpanel.h"
 #include "exportbar.h"
 #include "exportcontroller.h"
 #include "formpanel.h"
 #include "hostfeed.h"
 #include "latestmessages.h"
+#include "message.h"
 #include "messageinfo.h"
 #include "messagestatistics.h"
 #include "messagetreepanel.h"
 #include "messagetypemodel.h"
+#include "rowactions.h"
 #include "senderspanel.h"
 #include "session.h"
 #include "statisticspanel.h"
@@ -131,6 +134,9 @@ void MainWindow::createPanels()
     QDockWidget *watchDock
         = addPanel(watch, QStringLiteral("watch"), tr("Watch"), Qt::RightDockWidgetArea);
     tabifyDockWidget(formDock, watchDock);
+    bytes = new BytesPanel(*latest);
+    tabifyDockWidget(
+        watchDock, addPanel(bytes, QStringLiteral("bytes"), tr("Bytes"), Qt::RightDockWidgetArea));
     formDock->raise();
 
     Reception &reception = session.getReception();
@@ -229,10 +235,36 @@ void MainWindow::connectAll()
             [this] { transport->setPlayback(this->session.getPlayback()); });
     transport->setPlayback(session.getPlayback());
     connect(tree, &MessageTreePanel::typeChosen, this, &MainWindow::chooseType);
+    connectRowActions();
     connect(pauseAction, &QAction::toggled, this, &MainWindow::setPaused);
     connect(&countsTimer, &QTimer::timeout, this, &MainWindow::refreshCounts);
     countsTimer.start(countsIntervalMs);
     sinceCounts.start();
+}
+
+void MainWindow::connectRowActions()
+{
+    RowActions *actions = tree->getRowActions();
+    actions->setPlotAvailable(plot != nullptr);
+    connect(tree, &MessageTreePanel::placeChosen, bytes, &BytesPanel::setPlace);
+    connect(actions, &RowActions::watchRequested, this, [this](const QString &path) {
+        watch->watch(path);
+        raisePanel(watch);
+    });
+    connect(actions, &RowActions::plotRequested, this, [this](const QString &path) {
+        plot->addSeries(path);
+        raisePanel(plot);
+    });
+    connect(actions, &RowActions::formRequested, this, [this] { raisePanel(form); });
+    connect(actions, &RowActions::bytesRequested, this, [this] { raisePanel(bytes); });
+}
+
+/** Shows the dock of \a panel, also where it was closed or lies behind others. */
+void MainWindow::raisePanel(QWidget *panel)
+{
+    auto *dock = qobject_cast<QDockWidget *>(panel->parentWidget());
+    dock->show();
+    dock->raise();
 }
 
 void MainWindow::setPaused(bool paused)

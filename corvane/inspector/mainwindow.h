@@ -16,6 +16,7 @@ class QTreeView;
 namespace corvane {
 
 class AbstractPlotPanel;
+class BytesPanel;
 class EventLogPanel;
 class ExportController;
 class FormPanel;
@@ -59,6 +60,8 @@ private:
     void createMenus();
     void createStatusBar();
     void connectAll();
+    void connectRowActions();
+    static void raisePanel(QWidget *panel);
     QDockWidget *
     addPanel(QWidget *panel, const QString &name, const QString &title, Qt::DockWidgetArea area);
     void restoreLayout();
@@ -79,6 +82,7 @@ private:
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.
     WatchPanel *watch = nullptr; ///< Owned as a child.
+    BytesPanel *bytes = nullptr; ///< Owned as a child.
     StatisticsPanel *statistics = nullptr; ///< Owned as a child.
     SendersPanel *senders = nullptr; ///< Owned as a child.
     AbstractPlotPanel *plot = nullptr; ///< Owned as a child; null in a build without it.

@@ -267,7 +267,7 @@ void tst_mainwindow::layout_isRememberedByTheSettings()
 {
     const Shown shown;
     shown.window->findChild<QDockWidget *>(QStringLiteral("form"))->close();
-    shown.window->resize(700, 510);
+    shown.window->resize(700, 560);
     shown.window->close();
     Session session;
     QSettings settings(shown.settings.fileName(), QSettings::IniFormat);
@@ -275,7 +275,7 @@ void tst_mainwindow::layout_isRememberedByTheSettings()
     next.show();
     QVERIFY(!next.findChild<QDockWidget *>(QStringLiteral("form"))->isVisible());
     QVERIFY(next.findChild<QDockWidget *>(QStringLiteral("types"))->isVisible());
-    QCOMPARE(next.size(), QSize(700, 510));
+    QCOMPARE(next.size(), QSize(700, 560));
 }
 
 void tst_mainwindow::layout_ofRandomBytes_startsWithTheDefault()

@@ -1,7 +1,7 @@
+#include "inspectortree.h"
 #include "latestmessages.h"
 #include "messageinfo.h"
 #include "messagetreepanel.h"
-#include "messagetreewidget.h"
 #include "messagetreewidgetitem.h"
 #include "testcase.h"
 #include "testformat.h"
