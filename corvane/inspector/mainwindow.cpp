@@ -290,11 +290,14 @@ void MainWindow::showChosenType()
 {
     const QModelIndex index = sortedTypes->mapToSource(typeView->currentIndex());
     const MessageStatistics *chosen = types->getStatistics(index);
-    if (chosen != nullptr && chosen->getMessageInfo() != nullptr)
-        form->showType(chosen->getMessageInfo());
+    const MessageInfo *type = chosen != nullptr ? chosen->getMessageInfo() : nullptr;
+    if (type != nullptr)
+        form->showType(type);
     else
         form->showText(chosen != nullptr ? chosen->getMessageName() : QString(),
                        getPlaceholderText());
+    if (type != nullptr)
+        bytes->setType(type, latest->get(type));
 }
 
 void MainWindow::chooseType(const MessageInfo *type)

@@ -48,6 +48,12 @@ void BytesPanel::setPlace(const std::optional<RowPlace> &newPlace, const Message
     refresh();
 }
 
+void BytesPanel::setType(const MessageInfo *type, const Message *newMessage)
+{
+    if (!place || place->type != type)
+        setPlace(RowPlace{type, {}}, newMessage);
+}
+
 void BytesPanel::processMessage(const Message *newMessage)
 {
     if (!place || newMessage->getInfo() != place->type)
@@ -126,14 +132,12 @@ QString BytesPanel::getPlaceText() const
 void BytesPanel::refreshSelection()
 {
     const ByteRange range = view->getSelection();
+    const QString digits = QString::number(range.offset, 16).toUpper();
     QString text;
-    if (range.length == 1)
-        text = tr("Offset %1 (0x%2)").arg(range.offset).arg(range.offset, 0, 16);
-    else if (range.length > 1)
-        text = tr("Offset %1 (0x%2), %3 bytes")
-                   .arg(range.offset)
-                   .arg(range.offset, 0, 16)
-                   .arg(range.length);
+    if (range.length > 0)
+        text = tr("Offset %1 (0x%2)").arg(QString::number(range.offset), digits);
+    if (range.length > 1)
+        text += tr(", %1 bytes").arg(range.length);
     selection->setText(text);
     view->setAccessibleDescription(text + QStringLiteral(": ") + view->getSelectedText().left(200));
 }

@@ -26,6 +26,8 @@ public:
 
     /** Shows \a message, which is of the place's type or null, and marks the place in it. */
     void setPlace(const std::optional<RowPlace> &place, const Message *message);
+    /** The same for a whole message; nothing changes if a place in one of that type is shown. */
+    void setType(const MessageInfo *type, const Message *message);
 
 protected:
     /** While it cannot be seen, the panel only remembers what to show. */

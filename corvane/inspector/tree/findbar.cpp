@@ -169,8 +169,12 @@ void FindBar::goTo(size_t hit)
         return search(Wish::Next); // gone since it was found
     current = hit;
     expandTo(row);
+    // With what stands around it, where it was out of sight.
+    const QRect area = tree.viewport()->rect();
+    const bool isInSight = area.contains(tree.visualItemRect(row).center());
     tree.setCurrentItem(row);
-    tree.scrollToItem(row);
+    tree.scrollToItem(row, isInSight ? QAbstractItemView::EnsureVisible
+                                     : QAbstractItemView::PositionAtCenter);
     refreshState();
 }
 

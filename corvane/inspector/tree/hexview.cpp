@@ -87,6 +87,15 @@ int HexView::getWidthFor(int columns) const
               + 1);
 }
 
+QSize HexView::sizeHint() const
+{
+    constexpr int columns = 8;
+    constexpr int rows = 12;
+    const int frame = 2 * frameWidth();
+    return {getWidthFor(columns) + verticalScrollBar()->sizeHint().width() + frame,
+            rows * rowHeight + frame};
+}
+
 void HexView::layOut()
 {
     characterWidth = std::max(fontMetrics().horizontalAdvance(QLatin1Char('0')), 1);

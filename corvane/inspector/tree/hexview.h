@@ -38,6 +38,7 @@ public:
     /** To the clipboard. */
     void copy() const;
     void selectAll();
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     void selectionChanged();

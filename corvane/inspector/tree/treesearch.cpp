@@ -54,6 +54,7 @@ void TreeSearch::start(const QString &newText, const QTreeWidgetItem *newOrigin)
         hitsBeforeOrigin = 0;
     levels = {Level{}};
     nextType = 0;
+    insideByField.clear();
     if (text.isEmpty())
         timer.stop();
     else
@@ -158,7 +159,7 @@ bool TreeSearch::isPathIn(const Level &level, const Level &parent) const
     return last >= 0 && last + text.size() > parent.path.size();
 }
 
-bool TreeSearch::isHit(const Level &level, const Level &parent) const
+bool TreeSearch::isHit(const Level &level, const Level &parent)
 {
     const QTreeWidgetItem *row = level.row;
     const auto isInColumn = [&](int column) { return column >= 0 && isIn(row->text(column)); };
@@ -169,9 +170,7 @@ bool TreeSearch::isHit(const Level &level, const Level &parent) const
         return true;
     if (searchesPaths && isPathIn(level, parent))
         return true;
-    const MessageInfo *inside
-        = level.field != nullptr ? level.field->getType().getSubMessageInfo() : nullptr;
-    return inside != nullptr && !isElement && !hasVisibleChild(row) && hasInside(inside);
+    return level.field != nullptr && !isElement && !hasVisibleChild(row) && hasInside(level.field);
 }
 
 bool TreeSearch::isHit(QTreeWidgetItem *row)
@@ -193,11 +192,29 @@ bool TreeSearch::isHit(QTreeWidgetItem *row)
     return isHit(level, parent);
 }
 
-bool TreeSearch::hasInside(const MessageInfo *type) const
+/** Whether a sub-message, or the elements of a list of them, would hold a hit. */
+bool TreeSearch::hasInside(const FieldInfo *field)
 {
-    for (const FieldInfo *field : type->getFieldInfos())
-        if (isIn(field->getName()))
+    const MessageInfo *type = field->getType().getSubMessageInfo();
+    if (type == nullptr)
+        return false;
+    const auto known = insideByField.constFind(field);
+    if (known != insideByField.constEnd())
+        return *known;
+    return insideByField[field] = hasInside(type, field->getData()->name, 1);
+}
+
+bool TreeSearch::hasInside(const MessageInfo *type, const QString &path, int depth) const
+{
+    for (const FieldInfo *field : type->getFieldInfos()) {
+        const QString fieldPath = path + dot + field->getData()->name;
+        if (isIn(field->getName())
+            || (searchesPaths && fieldPath.endsWith(text, Qt::CaseInsensitive)))
             return true;
+        const MessageInfo *inside = field->getType().getSubMessageInfo();
+        if (inside != nullptr && depth < maximumDepth && hasInside(inside, fieldPath, depth + 1))
+            return true;
+    }
     return false;
 }
 
@@ -241,7 +258,7 @@ void TreeSearch::visitField(const FieldInfo *field, RowPlace &place, const QStri
     const MessageInfo *inside = field->getType().getSubMessageInfo();
     const bool isList = inside != nullptr && field->isRepeated();
     if (isIn(field->getName()) || (searchesPaths && path.endsWith(text, Qt::CaseInsensitive))
-        || (isList && hasInside(inside)))
+        || (isList && hasInside(field)))
         hits.push_back(place);
     for (const FieldInfo *part : field->getSubFieldInfos())
         visitField(part, place, path);

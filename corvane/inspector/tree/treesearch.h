@@ -2,6 +2,7 @@
 
 #include "rowplace.h"
 
+#include <QHash>
 #include <QTimer>
 
 class FormatInfo;
@@ -23,6 +24,8 @@ class TreeSearch : public QObject
 
 public:
     static constexpr int sliceMs = 8;
+    /** How far into what is not there is looked. */
+    static constexpr int maximumDepth = 4;
 
     /** Neither is owned; both must outlive the search. */
     TreeSearch(MessageTreeWidget &tree, const FormatInfo &format, QObject *parent = nullptr);
@@ -65,8 +68,9 @@ private:
     Level makeLevel(QTreeWidgetItem *row, const Level &parent) const;
     bool isIn(const QString &searched) const;
     bool isPathIn(const Level &level, const Level &parent) const;
-    bool isHit(const Level &level, const Level &parent) const;
-    bool hasInside(const MessageInfo *type) const;
+    bool isHit(const Level &level, const Level &parent);
+    bool hasInside(const FieldInfo *field);
+    bool hasInside(const MessageInfo *type, const QString &path, int depth) const;
     void addHit(const QTreeWidgetItem *row);
     void visitFields(const MessageInfo *within, RowPlace &place, const QString &path);
     void visitField(const FieldInfo *field, RowPlace &place, const QString &above);
@@ -84,6 +88,7 @@ private:
     std::vector<RowPlace> hits;
     std::vector<Level> levels; ///< The way to the row to look at next; empty behind the last.
     size_t nextType = 0;
+    QHash<const FieldInfo *, bool> insideByField; ///< What hasInside() said of it.
     QTimer timer;
 };
 

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void message_isShownWithTheFieldMarked_data();
     void message_isShownWithTheFieldMarked();
     void newMessages_areFollowed();
+    void type_replacesThePlaceInAnother();
     void hiddenPanel_catchesUpWhenShown();
     void confidentialFields_areMasked();
     void confidentialBits_maskTheirWord();
@@ -156,6 +157,21 @@ void tst_bytespanel::newMessages_areFollowed()
     shown.panel.setPlace(std::nullopt, nullptr);
     Q_EMIT shown.source.newMessage(first.get());
     QVERIFY(shown.heading().startsWith("Choose"));
+}
+
+void tst_bytespanel::type_replacesThePlaceInAnother()
+{
+    Shown shown;
+    const FrameMessage message = shown.message(payload);
+    shown.panel.setType(shown.type, message.get());
+    QCOMPARE(shown.heading(), "STATE: 21 bytes.");
+    shown.panel.setPlace(shown.place("big"), message.get());
+    shown.panel.setType(shown.type, message.get());
+    QVERIFY(shown.heading().contains("big"));
+    const TestFormat format("Demo", "Flat\n  a int8\n");
+    shown.panel.setType(format.type("Flat"), nullptr);
+    QCOMPARE(shown.heading(), "Flat: no message of this type has come yet.");
+    shown.panel.setPlace(std::nullopt, nullptr);
 }
 
 void tst_bytespanel::hiddenPanel_catchesUpWhenShown()

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void escape_restoresExpansionAndMemory();
     void settingsWrittenMeanwhile_knowNothingOfIt();
     void whatPeopleExpandThemselves_stays();
+    void absentSubMessages_areFoundByWhatTheyWouldHold();
     void emptyLists_areFoundByWhatTheyWouldHold();
     void typesWithoutRow_getOneForAsLong();
     void hiddenKinds_areNotFound();
@@ -63,6 +64,9 @@ const char types[] = R"(
       where   Place
       volt    int16[]
       sats    Satellite[]
+      maybe   Around optional
+    Around part
+      where   Place
     Place part
       lat     double
       lon     double
@@ -351,6 +355,15 @@ void tst_findbar::whatPeopleExpandThemselves_stays()
     QVERIFY(shown.row(5)->isExpanded());
     QVERIFY(MessageTreeWidget::sFieldInfoExpandedCollapsedMap.value(
         shown.format.field("Position.sats")));
+}
+
+void tst_findbar::absentSubMessages_areFoundByWhatTheyWouldHold()
+{
+    Shown shown("Position{maybe: {where: {lat: 1}}} Position{height: 1}");
+    QTRY_VERIFY(shown.row(6)->child(0)->isHidden());
+    shown.find("maybe.where.lon");
+    QCOMPARE(shown.current(), "Position>maybe");
+    QCOMPARE(shown.state(), "1 of 1");
 }
 
 void tst_findbar::emptyLists_areFoundByWhatTheyWouldHold()
