@@ -14,6 +14,7 @@ function(corvane_install_library target component)
             DESTINATION ${CMAKE_INSTALL_LIBDIR}
             COMPONENT runtime
             NAMELINK_COMPONENT development
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
         FILE_SET HEADERS DESTINATION ${CORVANE_HEADER_DIR} COMPONENT development)
     install(EXPORT Corvane${component}Targets
         NAMESPACE Corvane::
@@ -31,6 +32,7 @@ install(EXPORT CorvaneContractTargets
 corvane_install_library(tavguibase Base)
 corvane_install_library(corvaneframework Framework)
 corvane_install_library(corvanegui Gui)
+corvane_install_library(corvaneforms Forms)
 
 configure_package_config_file(
     ${CMAKE_CURRENT_LIST_DIR}/CorvaneConfig.cmake.in
