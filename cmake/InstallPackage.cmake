@@ -7,6 +7,7 @@ include(CMakePackageConfigHelpers)
 set(CORVANE_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/Corvane)
 set(CORVANE_HEADER_DIR ${CMAKE_INSTALL_INCLUDEDIR}/corvane)
 
+# corvane_install_library(<target> <component> [folder of headers])
 function(corvane_install_library target component)
     install(TARGETS ${target}
         EXPORT Corvane${component}Targets
@@ -15,7 +16,7 @@ function(corvane_install_library target component)
             COMPONENT runtime
             NAMELINK_COMPONENT development
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
-        FILE_SET HEADERS DESTINATION ${CORVANE_HEADER_DIR} COMPONENT development)
+        FILE_SET HEADERS DESTINATION ${CORVANE_HEADER_DIR}/${ARGN} COMPONENT development)
     install(EXPORT Corvane${component}Targets
         NAMESPACE Corvane::
         DESTINATION ${CORVANE_PACKAGE_DIR}
@@ -33,6 +34,7 @@ corvane_install_library(tavguibase Base)
 corvane_install_library(corvaneframework Framework)
 corvane_install_library(corvanegui Gui)
 corvane_install_library(corvaneforms Forms)
+corvane_install_library(corvane_streams Streams streams)
 
 configure_package_config_file(
     ${CMAKE_CURRENT_LIST_DIR}/CorvaneConfig.cmake.in
@@ -48,7 +50,7 @@ install(
     DESTINATION ${CORVANE_PACKAGE_DIR}
     COMPONENT development)
 
-# corvane_install_pkgconfig(<name> <library> <required packages> <description>)
+# corvane_install_pkgconfig(<name> <library> <required packages> <description> [folder of headers])
 set(CORVANE_PKGCONFIG_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH CORVANE_PREFIX_FROM_PKGCONFIG /${CORVANE_PKGCONFIG_DIR} /)
 function(corvane_install_pkgconfig name library requires description)
@@ -62,5 +64,7 @@ corvane_install_pkgconfig(corvane-base tavguibase "Qt6Core"
     "Allocation accounting and trace callbacks")
 corvane_install_pkgconfig(corvane-framework corvaneframework "corvane-base Qt6Core"
     "Descriptions and messages of live binary streams")
+corvane_install_pkgconfig(corvane-streams corvaneframework "corvane-framework"
+    "Decoding of live binary streams: MAVLink, Protocol Buffers, overlays" streams)
 corvane_install_pkgconfig(corvane-gui corvanegui "corvane-framework Qt6Widgets"
     "Qt widgets that show the decoded messages of live binary streams")
