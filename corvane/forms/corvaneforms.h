@@ -73,9 +73,12 @@ public:
 };
 
 /**
- * Keeps the place of a ::MessageStatisticsWidget, which has to be made with its coordinator:
- * `delete ui.layout->replaceWidget(ui.statistics, new ::MessageStatisticsWidget(coordinator))`,
- * and then `delete ui.statistics`.
+ * Keeps the place of a statistics view of the library, which has to be made with its coordinator:
+ *
+ * @code
+ * delete ui.layout->replaceWidget(ui.statistics, new ::MessageStatisticsWidget(coordinator));
+ * delete ui.statistics;
+ * @endcode
  */
 class MessageStatisticsWidget : public ::MessageStatisticsWidget
 {

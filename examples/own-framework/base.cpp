@@ -21,6 +21,7 @@ void MemLeakTracer::doAllocateObject(QString) {}
 
 void MemLeakTracer::doDeallocateObject(QString) {}
 
+// [callbacks]
 DbgCallbackFunctions *getCallBackFunctions()
 {
     static DbgCallbackFunctions functions = [] {
@@ -30,3 +31,5 @@ DbgCallbackFunctions *getCallBackFunctions()
     }();
     return &functions;
 }
+
+// [callbacks]

@@ -11,6 +11,7 @@ CountField::CountField(const MessageInfo *type)
 {
 }
 
+// [field]
 unsigned int CountField::getNumberOfValues(const Message *) const
 {
     return 1;
@@ -20,6 +21,8 @@ FieldValue CountField::getValue(const Message *message, unsigned int) const
 {
     return FieldValue::fromUnsigned(static_cast<const CountMessage *>(message)->count);
 }
+
+// [field]
 
 CounterFormat::CounterFormat()
     : format(std::make_unique<corvane::FormatInfoData>(
@@ -37,9 +40,12 @@ CounterFormat::~CounterFormat()
     corvane::knownTypes().removeOne(&type);
 }
 
+// [send]
 void CounterFormat::send(quint64 number)
 {
     const auto *message = new CountMessage(&type, number); // with one reference, ours
     Q_EMIT source.newMessage(message);
     message->removeReference();
 }
+
+// [send]

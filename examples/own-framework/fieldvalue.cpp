@@ -31,6 +31,7 @@ FieldValue FieldValue::invalid()
     return {};
 }
 
+// [value]
 FieldValue FieldValue::fromUnsigned(quint64 value, int sizeBits)
 {
     return {Number, value, sizeBits};
@@ -40,6 +41,8 @@ QString FieldValue::toString(bool, signed char, RepresentationMode, bool) const
 {
     return kind == Number ? QString::number(bits) : QString();
 }
+
+// [value]
 
 const Message *FieldValue::getSubMessage() const
 {
