@@ -3,6 +3,7 @@
 #include "rowplace.h"
 
 #include <QHash>
+#include <QList>
 #include <QTimer>
 #include <QWidget>
 

@@ -224,7 +224,7 @@ void tst_mainwindow::rowActions_reachThePanels()
 {
     QFETCH(QString, action);
     QFETCH(QString, dock);
-    const Shown shown;
+    const ShownWindow shown;
     if (dock == "plot" && shown.window->findChild<AbstractPlotPanel *>() == nullptr)
         QSKIP("this build has no plot");
     for (auto *closed : shown.window->findChildren<QDockWidget *>())
@@ -245,7 +245,7 @@ void tst_mainwindow::rowActions_reachThePanels()
 
 void tst_mainwindow::bytes_followWhatIsChosen()
 {
-    const Shown shown;
+    const ShownWindow shown;
     shown.window->findChild<QDockWidget *>("bytes")->raise();
     QTRY_VERIFY(shown.window->findChild<BytesPanel *>()->isVisible());
     shown.choose("BATTERY");
