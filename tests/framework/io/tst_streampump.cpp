@@ -267,7 +267,7 @@ void TestStreamPump::pause_stopsReading()
     QVERIFY(f.pump.isPaused());
     f.source.add("one\n");
     QTest::qWait(20);
-    QCOMPARE(f.source.getWaitingBytes(), 4);
+    QCOMPARE(f.source.getWaitingBytes(), qint64(4));
     QCOMPARE(f.pump.getBytesRead(), quint64(0));
     f.pump.setPaused(false);
     QTRY_COMPARE(f.decoder.frames, QStringList({"one"}));
