@@ -1,5 +1,6 @@
 #include "formpanel.h"
 
+#include "corvane.h"
 #include "descriptions.h"
 #include "latestmessages.h"
 #include "message.h"
@@ -7,6 +8,7 @@
 #include "messagewidget.h"
 #include "steadytreewidget.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -35,10 +37,7 @@ FormPanel::FormPanel(const LatestMessages &latest, QWidget *parent)
     , description(new QLabel(this))
     , form(new MessageWidget)
 {
-    QFont headingFont = heading->font();
-    headingFont.setPointSizeF(headingFont.pointSizeF() * 1.3);
-    headingFont.setBold(true);
-    heading->setFont(headingFont);
+    fitHeading();
     heading->setTextFormat(Qt::PlainText);
     description->setTextFormat(Qt::PlainText);
     description->setWordWrap(true);
@@ -58,16 +57,39 @@ FormPanel::FormPanel(const LatestMessages &latest, QWidget *parent)
     layout->addWidget(description);
     layout->addWidget(formArea, 1);
     connect(&latest, &MessageSource::newMessage, this, &FormPanel::showMessage);
+    connect(&latest, &LatestMessages::senderChanged, form, &MessageWidget::clearValues);
+    connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
+            &FormPanel::showLatest);
 }
 
-void FormPanel::showType(const MessageInfo *type)
+void FormPanel::fitHeading()
 {
-    if (type == nullptr) {
+    QFont headingFont = font();
+    headingFont.setPointSizeF(headingFont.pointSizeF() * 1.3);
+    headingFont.setBold(true);
+    heading->setFont(headingFont);
+}
+
+void FormPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitHeading();
+}
+
+void FormPanel::showType(const MessageInfo *newType)
+{
+    if (newType != nullptr)
+        setContent(newType->getName(), newType->getData()->description, newType);
+    else
         setContent({}, {}, nullptr);
-        return;
-    }
-    setContent(type->getName(), type->getData()->description, type);
-    if (const Message *message = latest.get(type))
+    showLatest();
+}
+
+void FormPanel::showLatest()
+{
+    const Message *message = type != nullptr ? latest.get(type) : nullptr;
+    if (message != nullptr)
         showMessage(message);
 }
 
@@ -83,8 +105,9 @@ void FormPanel::showText(const QString &title, const QString &text)
     setContent(title, text, nullptr);
 }
 
-void FormPanel::setContent(const QString &title, const QString &text, const MessageInfo *type)
+void FormPanel::setContent(const QString &title, const QString &text, const MessageInfo *newType)
 {
+    type = newType;
     heading->setText(title);
     description->setText(text);
     form->setMessageInfo(type);

@@ -26,7 +26,12 @@ public:
     /** Says \a text instead of a form, under \a title. */
     void showText(const QString &title, const QString &text);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void fitHeading();
+    void showLatest();
     void showMessage(const Message *message);
     void setContent(const QString &title, const QString &text, const MessageInfo *type);
 
@@ -35,6 +40,7 @@ private:
     QLabel *description; ///< Owned as a child.
     MessageWidget *form; ///< Owned as a child.
     QList<QLabel *> labels; ///< Owned by the form.
+    const MessageInfo *type = nullptr; ///< Not owned.
 };
 
 } // namespace corvane

@@ -124,6 +124,39 @@ QJsonArray eventsOf(Reception &reception)
     return events;
 }
 
+quint64 ratePerSecond(const ReportedEffort &effort, const Reception::Totals &totals)
+{
+    return effort.seconds > 0
+               ? static_cast<quint64>(static_cast<double>(totals.frames) / effort.seconds)
+               : 0;
+}
+
+double roundMs(const ReportedEffort &effort)
+{
+    return static_cast<double>(effort.longestRoundUs) / 1000.0;
+}
+
+QJsonObject performanceOf(const ReportedEffort &effort, const Reception::Totals &totals)
+{
+    const QJsonValue backlog
+        = effort.backlogBytes ? QJsonValue(*effort.backlogBytes) : QJsonValue();
+    return {{QStringLiteral("seconds"), effort.seconds},
+            {QStringLiteral("messagesPerSecond"), number(ratePerSecond(effort, totals))},
+            {QStringLiteral("longestRoundMs"), roundMs(effort)},
+            {QStringLiteral("backlogBytes"), backlog}};
+}
+
+void writeEffort(QTextStream &out, const ReportedEffort &effort, const Reception::Totals &totals)
+{
+    out << tr("Read in:         %1 s (%2 messages per second; longest event round %3 ms)")
+               .arg(effort.seconds, 0, 'f', 3)
+               .arg(ratePerSecond(effort, totals))
+               .arg(roundMs(effort), 0, 'f', 1)
+        << '\n';
+    if (effort.backlogBytes)
+        out << tr("Backlog:         %1 bytes left unread").arg(*effort.backlogBytes) << '\n';
+}
+
 void writeTotals(QTextStream &out, const Reception::Totals &totals)
 {
     const QString crcErrors = totals.crcErrors ? QString::number(*totals.crcErrors)
@@ -187,7 +220,7 @@ void writeEvents(QTextStream &out, Reception &reception)
 
 } // namespace
 
-QByteArray makeJsonReport(const QString &source, Reception &reception)
+QByteArray makeJsonReport(const QString &source, Reception &reception, const ReportedEffort &effort)
 {
     reception.flushEvents();
     const Reception::Totals &totals = reception.getTotals();
@@ -196,6 +229,7 @@ QByteArray makeJsonReport(const QString &source, Reception &reception)
         = static_cast<quint64>(reception.getEventLog()->getEntries().size() - events.size());
     const QJsonObject report{{QStringLiteral("source"), source},
                              {QStringLiteral("bytes"), number(totals.bytes)},
+                             {QStringLiteral("performance"), performanceOf(effort, totals)},
                              {QStringLiteral("skippedBytes"), number(totals.skippedBytes)},
                              {QStringLiteral("frames"), number(totals.frames)},
                              {QStringLiteral("unknownFrames"), number(totals.unknownFrames)},
@@ -208,13 +242,14 @@ QByteArray makeJsonReport(const QString &source, Reception &reception)
     return QJsonDocument(report).toJson();
 }
 
-QByteArray makeTextReport(const QString &source, Reception &reception)
+QByteArray makeTextReport(const QString &source, Reception &reception, const ReportedEffort &effort)
 {
     reception.flushEvents();
     QByteArray text;
     QTextStream out(&text);
     out << tr("Source:          %1").arg(source) << '\n';
     writeTotals(out, reception.getTotals());
+    writeEffort(out, effort, reception.getTotals());
     writeMessages(out, reception);
     writeSenders(out, reception);
     writeEvents(out, reception);

@@ -17,7 +17,8 @@
 
 #include <QDateTime>
 #include <QFile>
-#include <QFileInfo>
+
+#include <sys/stat.h>
 
 #include <algorithm>
 
@@ -50,6 +51,16 @@ QByteArray headOf(const QString &path)
     constexpr qint64 enoughBytes = 64 * 1024;
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.read(enoughBytes) : QByteArray();
+}
+
+/** Whether both names lead to the same file, be it by a link. */
+bool isSameFile(const QString &one, const QString &other)
+{
+    struct stat first = {};
+    struct stat second = {};
+    return ::stat(QFile::encodeName(one).constData(), &first) == 0
+           && ::stat(QFile::encodeName(other).constData(), &second) == 0
+           && first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
 } // namespace
@@ -257,8 +268,7 @@ void Session::stop()
 
 QString Session::startRecording(const QString &path)
 {
-    const QFileInfo file(path);
-    if (source && source->getSize() && file == QFileInfo(source->getName()))
+    if (source && source->getSize() && isSameFile(path, source->getName()))
         return tr("Cannot record to \"%1\": it is the file that is being read. Choose another "
                   "name.")
             .arg(path);
@@ -268,6 +278,11 @@ QString Session::startRecording(const QString &path)
 QString Session::getSourceName() const
 {
     return source ? source->getName() : QString();
+}
+
+std::optional<qint64> Session::getBacklogBytes() const
+{
+    return source ? source->getWaitingBytes() : std::nullopt;
 }
 
 std::optional<quint64> Session::getDroppedCount() const

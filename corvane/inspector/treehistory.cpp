@@ -3,6 +3,7 @@
 #include "corvane.h"
 #include "latestmessages.h"
 #include "messagetreewidget.h"
+#include "rowplace.h"
 #include "singlevaluefieldtreewidgetitem.h"
 
 #include <QAction>
@@ -22,13 +23,6 @@ namespace {
 constexpr auto kind = MessageTreeWidget::Custom1;
 constexpr int widthInCharacters = 18;
 
-bool isNumeric(const FieldInfo *field)
-{
-    const qint32 code = field != nullptr ? field->getType().getCode() : FieldType::Invalid;
-    return code == FieldType::SignedInteger || code == FieldType::UnsignedInteger
-           || code == FieldType::Boolean || code == FieldType::Float;
-}
-
 } // namespace
 
 TreeHistory::TreeHistory(MessageTreeWidget &tree, const LatestMessages &latest)
@@ -44,6 +38,7 @@ TreeHistory::TreeHistory(MessageTreeWidget &tree, const LatestMessages &latest)
         connect(other, &QAction::triggered, this, &TreeHistory::followColumns);
     connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
             [this] { lines.clear(); });
+    connect(&latest, &LatestMessages::senderChanged, this, [this] { lines.clear(); });
     connect(&timer, &QTimer::timeout, this, &TreeHistory::takeValues);
 }
 

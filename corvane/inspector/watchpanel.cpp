@@ -1,6 +1,7 @@
 #include "watchpanel.h"
 
 #include "catalogue.h"
+#include "corvane.h"
 #include "descriptions.h"
 #include "fieldvaluelabel.h"
 #include "latestmessages.h"
@@ -12,6 +13,7 @@
 
 #include <QAction>
 #include <QCompleter>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -59,14 +61,19 @@ WatchPanel::WatchPanel(const LatestMessages &latest, QWidget *parent)
     notice->setTextFormat(Qt::PlainText);
     notice->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(fontMetrics().height() / 4);
     layout->addWidget(splitter, 1);
     layout->addWidget(createButtons());
     layout->addWidget(notice);
     say(tr("Type the path of a field and press Enter, or pick one and press Watch."));
 
     connect(&latest, &MessageSource::newMessage, this, &WatchPanel::processMessage);
+    connect(&latest, &LatestMessages::senderChanged, this, &WatchPanel::forgetValues);
     connect(&expression, &PathExpression::partsChanged, this, &WatchPanel::followParts);
     connect(Catalogue::getInstance(), &Catalogue::changed, this, &WatchPanel::resolve);
+    connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
+            &WatchPanel::showAllLatest);
     connect(&stateTimer, &QTimer::timeout, this, &WatchPanel::refreshStates);
     stateTimer.start(stateIntervalMs);
 }
@@ -94,13 +101,14 @@ QWidget *WatchPanel::createChooser()
     auto *fields
         = new PathExpressionListWidget(&expression, PathExpression::FieldPart, &fieldOptions);
     fields->setAccessibleName(tr("Field"));
-    fields->setMinimumHeight(3 * fontMetrics().height());
+    fields->setMinimumHeight(fontMetrics().height() * 2);
 
     auto *combos = new QHBoxLayout;
     combos->addWidget(formats);
     combos->addWidget(messages, 1);
     auto *layout = new QVBoxLayout(chooser);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(fontMetrics().height() / 4);
     layout->addWidget(edit);
     layout->addLayout(combos);
     layout->addWidget(fields, 1);
@@ -135,12 +143,14 @@ void WatchPanel::createTable()
 {
     table = new QTableWidget(0, ColumnCount, this);
     table->setAccessibleName(tr("Watched fields"));
-    table->setMinimumHeight(3 * fontMetrics().height());
+    table->setMinimumHeight(fontMetrics().height() * 3);
     table->setHorizontalHeaderLabels({tr("Path"), tr("Value"), tr("Unit"), tr("State")});
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->verticalHeader()->hide();
+    table->verticalHeader()->setMinimumSectionSize(0);
+    fitRowHeight();
     table->horizontalHeader()->setStretchLastSection(true);
     table->setColumnWidth(PathColumn, fontMetrics().averageCharWidth() * 36);
     table->setColumnWidth(ValueColumn, fontMetrics().averageCharWidth() * 20);
@@ -150,6 +160,18 @@ void WatchPanel::createTable()
     connect(remove, &QAction::triggered, this, &WatchPanel::removeCurrent);
     table->addAction(remove);
     table->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void WatchPanel::fitRowHeight()
+{
+    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+}
+
+void WatchPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitRowHeight();
 }
 
 void WatchPanel::completeOptions()
@@ -225,6 +247,11 @@ void WatchPanel::createLabel(Row &row)
     row.label = new FieldValueLabel(row.field);
     row.label->setTextFormat(Qt::PlainText);
     row.label->setTimeOut(timeOutMs);
+    showLatest(row);
+}
+
+void WatchPanel::showLatest(const Row &row)
+{
     if (row.field == nullptr || !row.sinceValue.isValid() || row.sinceValue.hasExpired(timeOutMs))
         return;
     for (const MessageInfo *type : row.field->getMessageInfos())
@@ -238,6 +265,22 @@ void WatchPanel::showValue(const Message *message, FieldValueLabel &label)
     // A text of any length may come, which would be laid out as a whole.
     if (const QString text = SteadyTreeWidget::shortened(label.text()); text != label.text())
         label.setText(text);
+}
+
+void WatchPanel::showAllLatest()
+{
+    for (const Row &row : rows)
+        showLatest(row);
+}
+
+void WatchPanel::forgetValues()
+{
+    for (Row &row : rows) {
+        row.sinceValue.invalidate();
+        row.absent = false;
+        row.label->clearValue();
+    }
+    refreshStates();
 }
 
 void WatchPanel::resolve()

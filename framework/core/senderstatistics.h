@@ -28,6 +28,7 @@ struct CORVANEFRAMEWORK_EXPORT SenderStatistics
     /** Counts a damaged frame that claims to come from this sender and to be of that type. */
     void countCrcError(const MessageInfo *claimedType);
 
+    quint32 number = 0; ///< As messages name their sender.
     QString id; ///< As the format names its senders, such as "1/100".
     quint64 frames = 0;
     quint64 sequenceGaps = 0; ///< Places at which numbers are missing.

@@ -37,11 +37,16 @@ QString findMistake(const McapChunk &chunk, const Decompression &result)
 {
     switch (result.end) {
     case Decompression::End::UnknownMethod:
-        return tr("A chunk is compressed with \"%1\", which is not known.").arg(chunk.compression);
+        return QCoreApplication::translate("corvane::McapReader",
+                                           "A chunk is compressed with \"%1\", which is not known.")
+            .arg(chunk.compression);
     case Decompression::End::Damaged:
-        return tr("A chunk cannot be decompressed.");
+        return QCoreApplication::translate("corvane::McapReader",
+                                           "A chunk cannot be decompressed.");
     case Decompression::End::TooLong:
-        return tr("A chunk holds more than the %1 bytes it tells of.").arg(chunk.uncompressedSize);
+        return QCoreApplication::translate("corvane::McapReader",
+                                           "A chunk holds more than the %1 bytes it tells of.")
+            .arg(chunk.uncompressedSize);
     case Decompression::End::Cut:
     case Decompression::End::Complete:
         break;
@@ -50,9 +55,12 @@ QString findMistake(const McapChunk &chunk, const Decompression &result)
         return QString();
     if (result.end == Decompression::End::Cut
         || static_cast<quint64>(result.bytes.size()) != chunk.uncompressedSize)
-        return tr("A chunk holds less than the %1 bytes it tells of.").arg(chunk.uncompressedSize);
+        return QCoreApplication::translate("corvane::McapReader",
+                                           "A chunk holds less than the %1 bytes it tells of.")
+            .arg(chunk.uncompressedSize);
     if (chunk.uncompressedCrc != 0 && chunk.uncompressedCrc != getCrc32(result.bytes))
-        return tr("The checksum of a chunk is wrong.");
+        return QCoreApplication::translate("corvane::McapReader",
+                                           "The checksum of a chunk is wrong.");
     return QString();
 }
 

@@ -15,6 +15,8 @@
 
 #include <google/protobuf/descriptor.pb.h>
 
+#include <unistd.h>
+
 #include <memory>
 
 using namespace corvane;
@@ -495,6 +497,12 @@ void tst_session::recording_toTheSourceItself_isRefused()
     session.start(options);
     const QString same = folder.filePath(QStringLiteral("./copy.tlog"));
     QVERIFY(session.startRecording(same).contains(QStringLiteral("being read")));
+    const QString link = folder.filePath(QStringLiteral("link.tlog"));
+    QVERIFY(QFile::link(path, link));
+    QVERIFY(session.startRecording(link).contains(QStringLiteral("being read")));
+    const QString hardLink = folder.filePath(QStringLiteral("hard.tlog"));
+    QCOMPARE(::link(qPrintable(path), qPrintable(hardLink)), 0);
+    QVERIFY(session.startRecording(hardLink).contains(QStringLiteral("being read")));
     QVERIFY(!session.getRecorder().isRecording());
     QVERIFY(readFile(path) == before);
 }
