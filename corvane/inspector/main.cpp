@@ -1,3 +1,4 @@
+#include "eventroundprobe.h"
 #include "exportcommand.h"
 #include "options.h"
 #include "report.h"
@@ -5,6 +6,7 @@
 #include "workbench.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QSettings>
 #include <QTimer>
 #include <QWidget>
@@ -24,7 +26,9 @@ void print(FILE *stream, const QByteArray &text)
 
 int complain(const QString &text)
 {
-    print(stderr, QStringLiteral("corvane-inspector: %1\n").arg(text).toLocal8Bit());
+    print(stderr, QStringLiteral("corvane-inspector: %1\n")
+                      .arg(corvane::withoutControls(text))
+                      .toLocal8Bit());
     return 1;
 }
 
@@ -62,8 +66,13 @@ int runReport(const Options &options)
     if (options.durationSeconds)
         QTimer::singleShot(millisecondsOf(*options.durationSeconds), QCoreApplication::instance(),
                            &QCoreApplication::quit);
+    corvane::EventRoundProbe probe;
+    QElapsedTimer clock;
+    clock.start();
     session.start(options);
     QCoreApplication::exec();
+    const corvane::ReportedEffort effort{static_cast<double>(clock.nsecsElapsed()) / 1e9,
+                                         probe.getLongestEverUs(), session.getBacklogBytes()};
     session.stop();
 
     const auto &totals = session.getReception().getTotals();
@@ -71,7 +80,7 @@ int runReport(const Options &options)
         return complain(failure);
     const auto makeReport = options.report == Options::Report::Json ? corvane::makeJsonReport
                                                                     : corvane::makeTextReport;
-    print(stdout, makeReport(options.source->text, session.getReception()));
+    print(stdout, makeReport(options.source->text, session.getReception(), effort));
     if (!failure.isEmpty())
         return complain(failure);
     if (totals.bytes > 0 && totals.frames == 0)

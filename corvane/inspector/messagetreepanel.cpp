@@ -1,6 +1,7 @@
 #include "messagetreepanel.h"
 
 #include "catalogue.h"
+#include "corvane.h"
 #include "descriptions.h"
 #include "enumeration.h"
 #include "formatinfo.h"
@@ -120,6 +121,14 @@ void MessageTreePanel::createTree()
     tree->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     connect(&latest, &LatestMessages::typeSeen, this, &MessageTreePanel::addRow);
     connect(&latest, &MessageSource::newMessage, tree, &MessageTreeWidget::processMessage);
+    connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this, [this] {
+        for (MessageTreeWidgetItem *row : std::as_const(rows))
+            row->configureInTreeWidget();
+    });
+    connect(&latest, &LatestMessages::senderChanged, this, [this] {
+        for (MessageTreeWidgetItem *row : std::as_const(rows))
+            row->clearValues();
+    });
     connect(tree, &QTreeWidget::currentItemChanged, this, &MessageTreePanel::announceChosenType);
 }
 
@@ -141,16 +150,20 @@ void MessageTreePanel::createMenu()
     menu->addActions(tree->getToggleColumnActions());
     menu->addAction(history->getAction());
     menu->addSeparator();
-    const auto addSwitch = [this](const QString &text, bool on, auto receiver, auto slot) {
-        QAction *action = menu->addAction(text);
-        action->setCheckable(true);
-        action->setChecked(on);
-        connect(action, &QAction::toggled, receiver, slot);
-    };
-    addSwitch(tr("&Computed Fields"), true, tree, &MessageTreeWidget::setShowVirtualFields);
-    addSwitch(tr("&Secondary Fields"), true, tree,
+    const auto addSwitch
+        = [this](const QString &name, const QString &text, bool on, auto receiver, auto slot) {
+              QAction *action = menu->addAction(text);
+              action->setObjectName(name);
+              action->setCheckable(true);
+              action->setChecked(on);
+              connect(action, &QAction::toggled, receiver, slot);
+          };
+    addSwitch(QStringLiteral("showVirtual"), tr("&Computed Fields"), true, tree,
+              &MessageTreeWidget::setShowVirtualFields);
+    addSwitch(QStringLiteral("showSecondary"), tr("&Secondary Fields"), true, tree,
               [this](bool shown) { tree->setShowPrimaryFieldsOnly(!shown); });
-    addSwitch(tr("All &Known Message Types"), false, this, &MessageTreePanel::setAllTypesShown);
+    addSwitch(QStringLiteral("showAllTypes"), tr("All &Known Message Types"), false, this,
+              &MessageTreePanel::setAllTypesShown);
     menu->addSeparator();
     menu->addAction(tr("&Expand All"), tree, &QTreeWidget::expandAll);
     menu->addAction(tr("C&ollapse All"), tree, &QTreeWidget::collapseAll);
@@ -172,6 +185,9 @@ void MessageTreePanel::restoreSettings(QSettings &settings)
     }
     tree->loadExpansionState(settings);
     history->followColumns();
+    for (QAction *action : menu->actions())
+        if (action->isCheckable() && settings.contains(action->objectName()))
+            action->setChecked(settings.value(action->objectName()).toBool());
     settings.endGroup();
 }
 
@@ -180,6 +196,9 @@ void MessageTreePanel::saveSettings(QSettings &settings)
     settings.beginGroup(settingsGroup());
     tree->saveSettings(settings);
     tree->saveExpansionState(settings);
+    for (const QAction *action : menu->actions())
+        if (!action->objectName().isEmpty())
+            settings.setValue(action->objectName(), action->isChecked());
     settings.endGroup();
 }
 

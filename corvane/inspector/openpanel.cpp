@@ -1,6 +1,7 @@
 #include "openpanel.h"
 
 #include "hostfeed.h"
+#include "options.h"
 
 #include <QComboBox>
 #include <QDragEnterEvent>
@@ -263,9 +264,7 @@ void OpenPanel::refreshRecent()
     const auto choices = recent.get();
     for (const SourceChoice &choice : choices) {
         auto *item = new QListWidgetItem(choice.source, recentList);
-        item->setToolTip(QStringList(choice.definitions + choice.overlays)
-                             .join(QLatin1Char('\n'))
-                             .toHtmlEscaped());
+        item->setToolTip(QStringList(choice.definitions + choice.overlays).join(QLatin1Char('\n')));
     }
     if (choices.isEmpty()) {
         auto *item
@@ -324,11 +323,14 @@ QString OpenPanel::missing(const SourceChoice &choice) const
 {
     if (choice.source.isEmpty())
         return tr("Name the source: %1.").arg(kind->currentText());
-    if (choice.definitions.isEmpty())
+    const SourceAddressResult source = SourceAddress::parse(choice.source);
+    if (!source.address)
+        return source.error;
+    if (choice.definitions.isEmpty() && !bringsDefinitions(*source.address))
         return tr("Messages cannot be read without their definitions. Add the files that describe "
                   "them: a MAVLink dialect (.xml), such as common.xml, or Protocol Buffers files "
                   "(.proto, or a descriptor set .desc).");
-    return SourceAddress::parse(choice.source).error;
+    return {};
 }
 
 void OpenPanel::open()

@@ -64,6 +64,8 @@ public:
 
     /** The source's name for people; empty without a source. */
     QString getSourceName() const;
+    /** Bytes that have come and are not read yet, where the source tells. */
+    std::optional<qint64> getBacklogBytes() const;
     /** Datagrams that the system dropped, where it tells. */
     std::optional<quint64> getDroppedCount() const;
 

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void report_fromStandardInput();
     void report_fromProgram();
     void report_fromListenedSocket_endsWithDuration();
+    void report_ofTheHostFeed_hasItsMessages();
     void report_confidentialValues_areNowhere();
     void mistake_exitsWith1AndSaysWhere_data();
     void mistake_exitsWith1AndSaysWhere();
@@ -123,9 +124,9 @@ void tst_inspector::jsonReport_ofRecording_hasEveryKey()
     QCOMPARE(outcome.errors, QByteArray());
     QCOMPARE(outcome.exitCode, 0);
     const QJsonObject report = outcome.json();
-    QCOMPARE(report.keys(),
-             (QStringList{"bytes", "crcErrors", "eventCount", "events", "eventsOmitted", "frames",
-                          "messages", "senders", "skippedBytes", "source", "unknownFrames"}));
+    QCOMPARE(report.keys(), (QStringList{"bytes", "crcErrors", "eventCount", "events",
+                                         "eventsOmitted", "frames", "messages", "performance",
+                                         "senders", "skippedBytes", "source", "unknownFrames"}));
     QCOMPARE(report.value("source").toString(), example(QStringLiteral("rover.tlog")));
     QCOMPARE(report.value("bytes").toInteger(), recordedBytes().size());
     QCOMPARE(report.value("frames").toInteger(), 1737);
@@ -133,6 +134,13 @@ void tst_inspector::jsonReport_ofRecording_hasEveryKey()
     QCOMPARE(report.value("skippedBytes").toInteger(), 0);
     QCOMPARE(report.value("unknownFrames").toInteger(), 0);
     QCOMPARE(report.value("eventsOmitted").toInteger(), 0);
+    const QJsonObject performance = report.value("performance").toObject();
+    QCOMPARE(performance.keys(),
+             (QStringList{"backlogBytes", "longestRoundMs", "messagesPerSecond", "seconds"}));
+    QVERIFY(performance.value("backlogBytes").isNull()); // a file waits for nobody
+    QVERIFY(performance.value("longestRoundMs").toDouble() > 0);
+    QVERIFY(performance.value("seconds").toDouble() > 0);
+    QVERIFY(performance.value("messagesPerSecond").toInteger() > 0);
     QCOMPARE(sendersOf(report), (QStringList{"1/1 1677 2 8", "255/190 60 0 0"}));
     QCOMPARE(damageOf(report), QStringList{"MOTION 1"});
     const QJsonObject first = report.value("messages").toArray().at(0).toObject();
@@ -246,8 +254,8 @@ void tst_inspector::textReport_listsMessagesSendersAndEvents()
     const Outcome outcome
         = run(onExample({"--report", "text", example(QStringLiteral("rover.tlog"))}));
     QCOMPARE(outcome.exitCode, 0);
-    for (const char *part :
-         {"Good frames:     1737", "597            0", "8  1/1", "CRC error: MOTION"})
+    for (const char *part : {"Good frames:     1737", "597            0", "8  1/1",
+                             "CRC error: MOTION", "longest event round"})
         QVERIFY2(outcome.output.contains(part), part);
 }
 
@@ -281,6 +289,28 @@ void tst_inspector::report_fromListenedSocket_endsWithDuration()
     const auto report = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
     QCOMPARE(report.value("bytes").toInteger(), 30'000);
     QVERIFY(report.value("frames").toInteger() > 500);
+    QCOMPARE(report.value("performance")["backlogBytes"].toInteger(-1), 0);
+}
+
+void tst_inspector::report_ofTheHostFeed_hasItsMessages()
+{
+    const QString folder = sourceFile(QStringLiteral("corvane/hostfeed")) + QLatin1Char('/');
+    const QJsonObject report
+        = run({"--definitions", folder + "host.proto", "--overlay", folder + "host.overlay.json",
+               "--report", "json", "--duration", "2",
+               QStringLiteral("exec:'%1' --interval 100").arg(CORVANE_HOSTFEED)})
+              .json();
+    QVERIFY(report["frames"].toInt() >= 9);
+    QCOMPARE(report["unknownFrames"].toInt(), 0);
+    QCOMPARE(report["skippedBytes"].toInt(), 0);
+    QVERIFY(report["crcErrors"].isNull());
+    QStringList names;
+    for (const QJsonValue message : report["messages"].toArray())
+        names.append(message["name"].toString());
+    names.sort();
+    QCOMPARE(names, QStringList({"Disks", "Kernel", "Load averages", "Memory", "Network",
+                                 "Processes", "Processor", "Temperatures", "This stream"}));
+    QCOMPARE(report["senders"][0]["lost"].toInt(), 0);
 }
 
 void tst_inspector::report_confidentialValues_areNowhere()
