@@ -1,5 +1,6 @@
 #include "eventroundprobe.h"
 #include "exportcommand.h"
+#include "inspectortranslations.h"
 #include "options.h"
 #include "report.h"
 #include "session.h"
@@ -160,5 +161,6 @@ int main(int argc, char *argv[])
     }
     chooseOffscreenPlatform(options);
     const QApplication application(argc, argv);
+    corvane::installInspectorTranslations();
     return runWindow(options);
 }
