@@ -217,7 +217,9 @@ private:
             complain(tr("--report opens no window, so --screenshot cannot go with it."));
         if (reports && !options.source)
             complain(tr("--report needs a SOURCE to read; see --help."));
-        if (options.source && options.definitions.isEmpty())
+        // The window asks for what is missing.
+        const bool asks = options.opensWindow() && !photographs;
+        if (options.source && options.definitions.isEmpty() && !asks)
             complain(tr("Messages cannot be read without their definitions: name a MAVLink dialect "
                         "or Protocol Buffers files with --definitions FILE."));
         const bool isFile = options.source && options.source->kind == SourceAddress::Kind::File;

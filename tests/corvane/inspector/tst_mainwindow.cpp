@@ -157,7 +157,7 @@ void tst_mainwindow::statusBar_neverWidensTheWindow()
     const int before = shown.window->minimumSizeHint().width();
     shown.window->showState(QString(2000, QLatin1Char('m')));
     QCoreApplication::processEvents();
-    QCOMPARE(shown.window->minimumSizeHint().width(), before);
+    QVERIFY(shown.window->minimumSizeHint().width() <= before);
 }
 
 void tst_mainwindow::paused_viewsStandStillAndTheBarSaysWhatCame()
