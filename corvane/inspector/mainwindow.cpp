@@ -236,6 +236,7 @@ void MainWindow::createHelp()
 {
     help = new HelpPanel;
     helpDock = addPanel(help, QStringLiteral("help"), tr("Help"), Qt::RightDockWidgetArea);
+    tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("watch")), helpDock);
     helpDock->hide();
     QMenu *menu = menuBar()->addMenu(tr("&Help"));
     QAction *contents

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void mistake_exitsWith1AndSaysWhere();
     void failingProgram_keepsTheReport();
     void screenshot_showsTheWindow();
+    void screenshot_atEveryScale_data();
+    void screenshot_atEveryScale();
     void screenshot_unwritable_exitsWith1();
     void optionsOfQt_areTakenByQt();
     void withoutDefinitions_theWindowAsks();
@@ -364,6 +366,30 @@ void tst_inspector::screenshot_showsTheWindow()
     const QImage image(picture);
     QVERIFY(image.width() > 300 && image.height() > 200);
     QVERIFY(image.convertToFormat(QImage::Format_Indexed8).colorCount() > 2);
+}
+
+void tst_inspector::screenshot_atEveryScale_data()
+{
+    QTest::addColumn<QByteArray>("scale");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("1") << QByteArray("1") << QSize(800, 500);
+    QTest::newRow("1.5") << QByteArray("1.5") << QSize(1200, 750);
+    QTest::newRow("2") << QByteArray("2") << QSize(1600, 1000);
+}
+
+void tst_inspector::screenshot_atEveryScale()
+{
+    QFETCH(QByteArray, scale);
+    QFETCH(QSize, size);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("window.png");
+    qputenv("QT_SCALE_FACTOR", scale);
+    const Outcome outcome
+        = run(QStringList{"-qwindowgeometry", "800x500"}
+              + onExample({"--screenshot", file, "--after", "0.5", example("rover.tlog")}));
+    qunsetenv("QT_SCALE_FACTOR");
+    QVERIFY2(outcome.exitCode == 0, outcome.errors.constData());
+    QCOMPARE(QImage(file).size(), size);
 }
 
 void tst_inspector::screenshot_unwritable_exitsWith1()
