@@ -2,12 +2,14 @@
 
 #include "abstractplotpanel.h"
 #include "bytespanel.h"
+#include "collapsedtypes.h"
 #include "confidentialswitch.h"
 #include "elidinglabel.h"
 #include "eventlogpanel.h"
 #include "exportbar.h"
 #include "exportcontroller.h"
 #include "formpanel.h"
+#include "helppanel.h"
 #include "hostfeed.h"
 #include "icons.h"
 #include "latestmessages.h"
@@ -22,6 +24,7 @@
 #include "senderchooser.h"
 #include "senderspanel.h"
 #include "session.h"
+#include "settingsfile.h"
 #include "statisticspanel.h"
 #include "statusfigures.h"
 #include "transportbar.h"
@@ -34,6 +37,7 @@
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
 #include <QSortFilterProxyModel>
@@ -54,6 +58,11 @@ QString geometryKey()
 QString layoutKey()
 {
     return QStringLiteral("window/layout");
+}
+
+QString typesKey()
+{
+    return QStringLiteral("window/types");
 }
 
 } // namespace
@@ -78,6 +87,7 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     createMenus();
     createToolBar();
     createPanels();
+    createHelp();
     createStatusBar();
     connectAll();
     resize(fontMetrics().averageCharWidth() * 230, fontMetrics().height() * 55);
@@ -136,6 +146,7 @@ void MainWindow::createToolBar()
     senderChooser = new SenderChooser(session.getReception().getSenders(), bar);
     senderAction = bar->addWidget(senderChooser);
     addToolBar(bar);
+    bar->toggleViewAction()->setToolTip(tr("Show or hide the tool bar"));
     viewMenu->addAction(bar->toggleViewAction());
 }
 
@@ -148,6 +159,7 @@ void MainWindow::createMenus()
     fileMenu->addSeparator();
     QAction *quit = fileMenu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence::Quit);
+    quit->setToolTip(tr("Close the window; what it shows is remembered"));
     viewMenu = menuBar()->addMenu(tr("&View"));
     viewMenu->addAction(pauseAction);
     viewMenu->addAction(confidential->getAction());
@@ -171,6 +183,7 @@ void MainWindow::createPanels()
     addPanel(typeView, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
     transport = new TransportBar(this);
     addToolBar(Qt::BottomToolBarArea, transport);
+    transport->toggleViewAction()->setToolTip(tr("Show or hide the bar that plays recordings"));
     viewMenu->addAction(transport->toggleViewAction());
     watch = new WatchPanel(*latest);
     QDockWidget *formDock
@@ -219,9 +232,46 @@ QDockWidget *MainWindow::addPanel(QWidget *panel,
     auto *dock = new QDockWidget(title, this);
     dock->setObjectName(name);
     dock->setWidget(panel);
+    dock->toggleViewAction()->setToolTip(tr("Show or hide the panel \"%1\"").arg(title));
     addDockWidget(area, dock);
     viewMenu->addAction(dock->toggleViewAction());
     return dock;
+}
+
+void MainWindow::createHelp()
+{
+    help = new HelpPanel;
+    helpDock = addPanel(help, QStringLiteral("help"), tr("Help"), Qt::RightDockWidgetArea);
+    tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("watch")), helpDock);
+    helpDock->hide();
+    QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    QAction *contents
+        = menu->addAction(makeIcon(QStringLiteral("help-contents")), tr("&Uses and Keys"));
+    contents->setShortcut(QKeySequence::HelpContents);
+    contents->setToolTip(tr("What the window is for, and all keys"));
+    connect(contents, &QAction::triggered, this, &MainWindow::showHelp);
+    QAction *versions = menu->addAction(tr("&About"));
+    versions->setToolTip(tr("The versions of the program and of what it uses"));
+    connect(versions, &QAction::triggered, this, &MainWindow::showVersions);
+    for (QMenu *one : menuBar()->findChildren<QMenu *>())
+        one->setToolTipsVisible(true);
+}
+
+void MainWindow::showHelp()
+{
+    help->describe(*this);
+    helpDock->show();
+    helpDock->raise();
+    help->setFocus();
+}
+
+void MainWindow::showVersions()
+{
+    auto *box = new QMessageBox(QMessageBox::NoIcon, tr("About"), getVersionsText(),
+                                QMessageBox::Close, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setIconPixmap(makeProgramIcon().pixmap(64, 64));
+    box->open();
 }
 
 void MainWindow::restoreLayout()
@@ -229,6 +279,8 @@ void MainWindow::restoreLayout()
     // Qt refuses what it did not write itself, and leaves the window as it is then.
     restoreGeometry(settings.value(geometryKey()).toByteArray());
     restoreState(settings.value(layoutKey()).toByteArray());
+    typeView->header()->restoreState(settings.value(typesKey()).toByteArray());
+    restoreCollapsedTypes(settings, *session.getReception().getFormat());
     tree->restoreSettings(settings);
     watch->restoreSettings(settings);
     statistics->restoreSettings(settings);
@@ -240,11 +292,14 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     settings.setValue(geometryKey(), saveGeometry());
     settings.setValue(layoutKey(), saveState());
+    settings.setValue(typesKey(), typeView->header()->saveState());
+    saveCollapsedTypes(settings, *session.getReception().getFormat());
     tree->saveSettings(settings);
     watch->saveSettings(settings);
     statistics->saveSettings(settings);
     if (plot != nullptr)
         plot->saveSettings(settings);
+    SettingsFile::seal(settings);
     QMainWindow::closeEvent(event);
 }
 

@@ -22,6 +22,7 @@ class BytesPanel;
 class EventLogPanel;
 class ExportController;
 class FormPanel;
+class HelpPanel;
 class LatestMessages;
 class MessageTreePanel;
 class MessageTypeModel;
@@ -71,6 +72,7 @@ private:
     void createActions();
     void createMenus();
     void createToolBar();
+    void createHelp();
     void createStatusBar();
     void connectAll();
     void connectRowActions();
@@ -84,6 +86,8 @@ private:
     void setPaused(bool paused);
     void chooseSender(std::optional<quint32> sender);
     void applyViewSettings();
+    void showHelp();
+    void showVersions();
     void refreshCounts();
     QString getPlaceholderText() const;
 
@@ -106,6 +110,8 @@ private:
     EventLogPanel *events = nullptr; ///< Owned as a child.
     SendersPanel *senders = nullptr; ///< Owned as a child.
     AbstractPlotPanel *plot = nullptr; ///< Owned as a child; null in a build without it.
+    HelpPanel *help = nullptr; ///< Owned as a child.
+    QDockWidget *helpDock = nullptr; ///< Owned as a child.
     TransportBar *transport = nullptr; ///< Owned as a child.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
     SenderChooser *senderChooser = nullptr; ///< Owned as a child.

@@ -164,7 +164,7 @@ void tst_mainwindow::statusBar_neverWidensTheWindow()
     const int before = shown.window->minimumSizeHint().width();
     shown.window->showState(QString(2000, QLatin1Char('m')));
     QCoreApplication::processEvents();
-    QCOMPARE(shown.window->minimumSizeHint().width(), before);
+    QVERIFY(shown.window->minimumSizeHint().width() <= before);
 }
 
 void tst_mainwindow::paused_viewsStandStillAndTheBarSaysWhatCame()
@@ -175,12 +175,18 @@ void tst_mainwindow::paused_viewsStandStillAndTheBarSaysWhatCame()
     auto *pause = shown.action(QStringLiteral("&Pause the Views"));
     pause->trigger();
     const QStringList before = shown.form();
-    QTRY_VERIFY(!shown.says(QStringLiteral("Paused, new: 0;")));
-    QVERIFY(shown.says(QStringLiteral("Paused, ")));
+    const auto pauseText = [&shown] {
+        for (const QLabel *label : shown.window->findChildren<QLabel *>())
+            if (label->text().startsWith(QStringLiteral("Paused for")) && label->isVisible())
+                return label->text();
+        return QString();
+    };
+    const QRegularExpression some(QStringLiteral("^Paused for \\d+ s, new messages: [1-9]"));
+    QTRY_VERIFY(some.match(pauseText()).hasMatch());
     QCOMPARE(shown.form(), before);
     pause->trigger();
     QVERIFY(shown.form() != before);
-    QVERIFY(!shown.says(QStringLiteral("Paused")));
+    QCOMPARE(pauseText(), QString());
 }
 
 void tst_mainwindow::plot_isAPanelOrSaysThatItIsMissing()
