@@ -98,6 +98,8 @@ public:
         setMinimumHeight(1);
     }
 
+    bool hasHeightForWidth() const override { return false; }
+
     QSize sizeHint() const override { return {1, fontMetrics().lineSpacing() * 2}; }
 };
 

@@ -243,8 +243,9 @@ void tst_inspectortree::description_beforeTheFirstMessage()
     auto *row = new MessageTreeWidgetItem(&tree, format.type("Position"));
     tree.addTopLevelItem(row);
     row->configureInTreeWidget();
-    QCOMPARE(describeRow(row), QStringList({"Demo.Position", "Where it is",
-                                            "No message of this type has come yet."}));
+    QCOMPARE(
+        describeRow(row),
+        QStringList({"Demo.Position", "No message of this type has come yet.", "Where it is"}));
     QCOMPARE(describeRow(nullptr), QStringList());
 }
 
