@@ -17,6 +17,7 @@
 
 #include <QCompleter>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -204,8 +205,11 @@ void MessageTreePanel::createMenu()
     menu->setToolTipsVisible(true);
     addFindActions();
     menu->addSeparator();
-    menu->addActions(tree->getToggleColumnActions());
-    menu->addAction(history->getAction());
+    QList<QAction *> columns = tree->getToggleColumnActions();
+    columns += history->getAction();
+    menu->addActions(columns);
+    tree->header()->addActions(columns);
+    tree->header()->setContextMenuPolicy(Qt::ActionsContextMenu);
     addSwitches();
     menu->addSeparator();
     addExpansionActions();
@@ -370,6 +374,12 @@ void MessageTreePanel::filterBy(const QString &text)
 {
     filterEdit->setText(text);
     filterEdit->setFocus(Qt::OtherFocusReason);
+}
+
+void MessageTreePanel::goTo(const RowPlace &place)
+{
+    if (QTreeWidgetItem *row = place.findRow(*tree))
+        tree->setCurrentItem(row);
 }
 
 void MessageTreePanel::refreshRowState()

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void collapsedRows_areExpandedTo();
     void escape_restoresExpansionAndMemory();
     void settingsWrittenMeanwhile_knowNothingOfIt();
+    void escapeInTheTree_closesToo();
     void whatPeopleExpandThemselves_stays();
     void absentSubMessages_areFoundByWhatTheyWouldHold();
     void emptyLists_areFoundByWhatTheyWouldHold();
@@ -343,6 +344,16 @@ void tst_findbar::settingsWrittenMeanwhile_knowNothingOfIt()
     shown.source.send("Position{sats: [{state: Good}, {state: Lost}, {state: Good}, {}]}");
     QTRY_COMPARE(shown.row(5)->childCount(), 4);
     QVERIFY(shown.row(5)->isExpanded());
+}
+
+void tst_findbar::escapeInTheTree_closesToo()
+{
+    Shown shown;
+    shown.find("lost");
+    shown.tree()->setFocus();
+    QTest::keyClick(shown.tree(), Qt::Key_Escape);
+    QVERIFY(!shown.bar()->isVisible());
+    QVERIFY(!shown.row(5)->isExpanded());
 }
 
 void tst_findbar::whatPeopleExpandThemselves_stays()
