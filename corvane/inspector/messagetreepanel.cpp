@@ -379,7 +379,7 @@ void MessageTreePanel::filterBy(const QString &text)
 void MessageTreePanel::goTo(const RowPlace &place)
 {
     if (QTreeWidgetItem *row = place.findRow(*tree))
-        tree->setCurrentItem(row);
+        tree->goTo(row);
 }
 
 void MessageTreePanel::refreshRowState()
