@@ -345,6 +345,7 @@ void MainWindow::connectRowActions()
     RowActions *actions = tree->getRowActions();
     actions->setPlotAvailable(plot != nullptr);
     connect(tree, &MessageTreePanel::placeChosen, bytes, &BytesPanel::setPlace);
+    connect(bytes, &BytesPanel::placeActivated, tree, &MessageTreePanel::goTo);
     connect(actions, &RowActions::watchRequested, this, [this](const QString &path) {
         watch->watch(path);
         raisePanel(watch);

@@ -18,6 +18,7 @@
 
 #include <QCompleter>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -98,6 +99,8 @@ public:
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Maximum);
         setMinimumHeight(1);
     }
+
+    bool hasHeightForWidth() const override { return false; }
 
     QSize sizeHint() const override { return {1, fontMetrics().lineSpacing() * 2}; }
 };
@@ -201,8 +204,11 @@ void MessageTreePanel::createMenu()
     menu->setToolTipsVisible(true);
     addFindActions();
     menu->addSeparator();
-    menu->addActions(tree->getToggleColumnActions());
-    menu->addAction(history->getAction());
+    QList<QAction *> columns = tree->getToggleColumnActions();
+    columns += history->getAction();
+    menu->addActions(columns);
+    tree->header()->addActions(columns);
+    tree->header()->setContextMenuPolicy(Qt::ActionsContextMenu);
     addSwitches();
     menu->addSeparator();
     addExpansionActions();
@@ -370,6 +376,12 @@ void MessageTreePanel::filterBy(const QString &text)
 {
     filterEdit->setText(text);
     filterEdit->setFocus(Qt::OtherFocusReason);
+}
+
+void MessageTreePanel::goTo(const RowPlace &place)
+{
+    if (QTreeWidgetItem *row = place.findRow(*tree))
+        tree->goTo(row);
 }
 
 void MessageTreePanel::refreshRowState()

@@ -48,6 +48,9 @@ public:
     void restoreSettings(QSettings &settings);
     void saveSettings(QSettings &settings);
 
+    /** Makes the row of \a place the current one, as far as there is one. */
+    void goTo(const RowPlace &place);
+
     InspectorTree *getTree() const { return tree; }
 
     /** What can be done with the current row. */

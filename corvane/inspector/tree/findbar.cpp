@@ -169,12 +169,7 @@ void FindBar::goTo(size_t hit)
         return search(Wish::Next); // gone since it was found
     current = hit;
     expandTo(row);
-    // With what stands around it, where it was out of sight.
-    const QRect area = tree.viewport()->rect();
-    const bool isInSight = area.contains(tree.visualItemRect(row).center());
-    tree.setCurrentItem(row);
-    tree.scrollToItem(row, isInSight ? QAbstractItemView::EnsureVisible
-                                     : QAbstractItemView::PositionAtCenter);
+    tree.goTo(row);
     refreshState();
 }
 
@@ -221,7 +216,7 @@ void FindBar::collapseAgain()
     }
     expanded.clear();
     if (shown != tree.currentItem())
-        tree.setCurrentItem(shown);
+        tree.goTo(shown);
 }
 
 /** What people expand or collapse themselves stays as they leave it. */

@@ -81,6 +81,31 @@ QString InspectorTree::getAnnotation(const QTreeWidgetItem *row) const
     return parts.join(QStringLiteral("  "));
 }
 
+void InspectorTree::goTo(QTreeWidgetItem *row)
+{
+    const bool wasInSight = isInSight(row);
+    // The view asks where the old and the new row are, to paint these alone. It would measure all
+    // rows between them; this way it only counts them, and is painted as a whole.
+    const bool scrollsByItself = hasAutoScroll();
+    setAutoScroll(false);
+    setUniformRowHeights(true);
+    setCurrentItem(row);
+    setUniformRowHeights(false);
+    setAutoScroll(scrollsByItself);
+    viewport()->update();
+    scrollToItem(row, wasInSight ? EnsureVisible : PositionAtCenter);
+}
+
+bool InspectorTree::isInSight(const QTreeWidgetItem *row) const
+{
+    const int bottom = viewport()->height();
+    for (const QTreeWidgetItem *seen = itemAt(0, 0);
+         seen != nullptr && visualItemRect(seen).bottom() <= bottom; seen = itemBelow(seen))
+        if (seen == row)
+            return true;
+    return false;
+}
+
 void InspectorTree::setExpandedBelow(QTreeWidgetItem *row, bool expanded)
 {
     scheduleDelayedItemsLayout(); // with a layout pending, no row does its own
@@ -101,8 +126,9 @@ void InspectorTree::setAllExpanded(bool expanded)
 
 void InspectorTree::contextMenuEvent(QContextMenuEvent *event)
 {
-    const QTreeWidgetItem *row = currentItem();
+    QTreeWidgetItem *row = currentItem();
     if (event->reason() == QContextMenuEvent::Keyboard && row != nullptr) {
+        goTo(row);
         const QRect area = visualItemRect(row).intersected(viewport()->rect());
         Q_EMIT menuRequested(viewport()->mapToGlobal(area.center()));
     } else {
