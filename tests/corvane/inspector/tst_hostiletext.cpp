@@ -245,7 +245,7 @@ void tst_hostiletext::reportForPeople_hasNoControlCharacters()
     session.start(shown.options);
     QVERIFY(!finished.isEmpty() || finished.wait());
     const QString report = QString::fromUtf8(
-        makeTextReport(QStringLiteral("file \x1b]0;title\x07"), session.getReception()));
+        makeTextReport(QStringLiteral("file \x1b]0;title\x07"), session.getReception(), {}));
     QVERIFY(report.contains(QStringLiteral("<i>Talk</i>")));
     for (const QChar character : report)
         QVERIFY(character == QLatin1Char('\n') || character.category() != QChar::Other_Control);
