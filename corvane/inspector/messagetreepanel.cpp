@@ -386,7 +386,8 @@ void MessageTreePanel::goTo(const RowPlace &place)
 
 void MessageTreePanel::refreshRowState()
 {
-    QString text = describeRow(tree->currentItem()).join(QStringLiteral("  ·  "));
+    QString text = SteadyTreeWidget::shortened(
+        describeRow(tree->currentItem()).join(QStringLiteral("  ·  ")));
     if (text.isEmpty() && tree->topLevelItemCount() > 0)
         text = tr("Choose a row to read about it here, and press the right mouse button or the "
                   "menu key for what can be done with it.");

@@ -187,7 +187,7 @@ void InspectorTree::drawRow(QPainter *painter,
         return;
     QRect area = visualRect(index.siblingAtColumn(column));
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
-    const int taken = margin + fontMetrics().horizontalAdvance(row->text(column))
+    const int taken = margin + fontMetrics().horizontalAdvance(shortened(row->text(column)))
                       + fontMetrics().averageCharWidth();
     if (layoutDirection() == Qt::RightToLeft)
         area.adjust(margin, 0, -taken, 0);
