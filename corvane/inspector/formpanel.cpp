@@ -6,13 +6,29 @@
 #include "message.h"
 #include "messageinfo.h"
 #include "messagewidget.h"
+#include "steadytreewidget.h"
 
 #include <QEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace corvane {
+
+namespace {
+
+/** Texts of streams and definitions may be of any length, which a label would lay out as a whole.
+ */
+void shorten(QLabel &label)
+{
+    const QString text = SteadyTreeWidget::shortened(label.text());
+    if (text != label.text())
+        label.setText(text);
+}
+
+} // namespace
 
 FormPanel::FormPanel(const LatestMessages &latest, QWidget *parent)
     : QWidget(parent)
@@ -41,7 +57,7 @@ FormPanel::FormPanel(const LatestMessages &latest, QWidget *parent)
     layout->addWidget(heading);
     layout->addWidget(description);
     layout->addWidget(formArea, 1);
-    connect(&latest, &MessageSource::newMessage, form, &MessageWidget::processMessage);
+    connect(&latest, &MessageSource::newMessage, this, &FormPanel::showMessage);
     connect(&latest, &LatestMessages::senderChanged, form, &MessageWidget::clearValues);
     connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
             &FormPanel::showLatest);
@@ -75,7 +91,14 @@ void FormPanel::showLatest()
 {
     const Message *message = type != nullptr ? latest.get(type) : nullptr;
     if (message != nullptr)
-        form->processMessage(message);
+        showMessage(message);
+}
+
+void FormPanel::showMessage(const Message *message)
+{
+    form->processMessage(message);
+    for (QLabel *label : std::as_const(labels))
+        shorten(*label);
 }
 
 void FormPanel::showText(const QString &title, const QString &text)
@@ -89,6 +112,11 @@ void FormPanel::setContent(const QString &title, const QString &text, const Mess
     heading->setText(title);
     description->setText(text);
     form->setMessageInfo(type);
+    labels = form->findChildren<QLabel *>();
+    for (QLabel *label : std::as_const(labels))
+        label->setTextFormat(Qt::PlainText);
+    for (QLabel *label : {heading, description})
+        shorten(*label);
 }
 
 } // namespace corvane

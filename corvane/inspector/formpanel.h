@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
+class Message;
 class MessageInfo;
 class MessageWidget;
 class QLabel;
@@ -30,12 +32,14 @@ protected:
 private:
     void fitHeading();
     void showLatest();
+    void showMessage(const Message *message);
     void setContent(const QString &title, const QString &text, const MessageInfo *type);
 
     const LatestMessages &latest;
     QLabel *heading; ///< Owned as a child.
     QLabel *description; ///< Owned as a child.
     MessageWidget *form; ///< Owned as a child.
+    QList<QLabel *> labels; ///< Owned by the form.
     const MessageInfo *type = nullptr; ///< Not owned.
 };
 

@@ -30,7 +30,9 @@ void print(FILE *stream, const QByteArray &text)
 
 int complain(const QString &text)
 {
-    print(stderr, QStringLiteral("corvane-inspector: %1\n").arg(text).toLocal8Bit());
+    print(stderr, QStringLiteral("corvane-inspector: %1\n")
+                      .arg(corvane::withoutControls(text))
+                      .toLocal8Bit());
     return 1;
 }
 
@@ -112,7 +114,7 @@ int runWindow(const Options &options)
     corvane::Workbench workbench(options, settings.get());
     if (!options.source) {
         workbench.showOpenPanel();
-    } else if (options.definitions.isEmpty()) {
+    } else if (options.definitions.isEmpty() && !corvane::bringsDefinitions(*options.source)) {
         workbench.askForDefinitions(options);
     } else {
         const QStringList errors = workbench.open(options);

@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "abstractplotpanel.h"
+#include "bytespanel.h"
 #include "collapsedtypes.h"
 #include "confidentialswitch.h"
 #include "elidinglabel.h"
@@ -12,12 +13,14 @@
 #include "hostfeed.h"
 #include "icons.h"
 #include "latestmessages.h"
+#include "message.h"
 #include "messageinfo.h"
 #include "messagestatistics.h"
 #include "messagetreepanel.h"
 #include "messagetypemodel.h"
 #include "noticearea.h"
 #include "recordcontroller.h"
+#include "rowactions.h"
 #include "senderchooser.h"
 #include "senderspanel.h"
 #include "session.h"
@@ -188,6 +191,9 @@ void MainWindow::createPanels()
     QDockWidget *watchDock
         = addPanel(watch, QStringLiteral("watch"), tr("Watch"), Qt::RightDockWidgetArea);
     tabifyDockWidget(formDock, watchDock);
+    bytes = new BytesPanel(*latest);
+    tabifyDockWidget(
+        watchDock, addPanel(bytes, QStringLiteral("bytes"), tr("Bytes"), Qt::RightDockWidgetArea));
     formDock->raise();
 
     Reception &reception = session.getReception();
@@ -328,9 +334,35 @@ void MainWindow::connectAll()
     connect(tree, &MessageTreePanel::typeChosen, this, &MainWindow::chooseType);
     connect(senders, &SendersPanel::senderChosen, senderChooser, &SenderChooser::choose);
     connect(senderChooser, &SenderChooser::chosen, this, &MainWindow::chooseSender);
+    connectRowActions();
     connect(pauseAction, &QAction::toggled, this, &MainWindow::setPaused);
     connect(&countsTimer, &QTimer::timeout, this, &MainWindow::refreshCounts);
     connect(viewSettings, &ViewSettings::changed, this, &MainWindow::applyViewSettings);
+}
+
+void MainWindow::connectRowActions()
+{
+    RowActions *actions = tree->getRowActions();
+    actions->setPlotAvailable(plot != nullptr);
+    connect(tree, &MessageTreePanel::placeChosen, bytes, &BytesPanel::setPlace);
+    connect(actions, &RowActions::watchRequested, this, [this](const QString &path) {
+        watch->watch(path);
+        raisePanel(watch);
+    });
+    connect(actions, &RowActions::plotRequested, this, [this](const QString &path) {
+        plot->addSeries(path);
+        raisePanel(plot);
+    });
+    connect(actions, &RowActions::formRequested, this, [this] { raisePanel(form); });
+    connect(actions, &RowActions::bytesRequested, this, [this] { raisePanel(bytes); });
+}
+
+/** Shows the dock of \a panel, also where it was closed or lies behind others. */
+void MainWindow::raisePanel(QWidget *panel)
+{
+    auto *dock = qobject_cast<QDockWidget *>(panel->parentWidget());
+    dock->show();
+    dock->raise();
 }
 
 void MainWindow::setPaused(bool paused)
@@ -379,11 +411,14 @@ void MainWindow::showChosenType()
 {
     const QModelIndex index = sortedTypes->mapToSource(typeView->currentIndex());
     const MessageStatistics *chosen = types->getStatistics(index);
-    if (chosen != nullptr && chosen->getMessageInfo() != nullptr)
-        form->showType(chosen->getMessageInfo());
+    const MessageInfo *type = chosen != nullptr ? chosen->getMessageInfo() : nullptr;
+    if (type != nullptr)
+        form->showType(type);
     else
         form->showText(chosen != nullptr ? chosen->getMessageName() : QString(),
                        getPlaceholderText());
+    if (type != nullptr)
+        bytes->setType(type, latest->get(type));
 }
 
 void MainWindow::chooseType(const MessageInfo *type)

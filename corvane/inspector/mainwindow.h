@@ -18,6 +18,7 @@ namespace corvane {
 class AbstractPlotPanel;
 class ConfidentialSwitch;
 class ElidingLabel;
+class BytesPanel;
 class EventLogPanel;
 class ExportController;
 class FormPanel;
@@ -74,6 +75,8 @@ private:
     void createHelp();
     void createStatusBar();
     void connectAll();
+    void connectRowActions();
+    static void raisePanel(QWidget *panel);
     QDockWidget *
     addPanel(QWidget *panel, const QString &name, const QString &title, Qt::DockWidgetArea area);
     void restoreLayout();
@@ -102,6 +105,7 @@ private:
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.
     WatchPanel *watch = nullptr; ///< Owned as a child.
+    BytesPanel *bytes = nullptr; ///< Owned as a child.
     StatisticsPanel *statistics = nullptr; ///< Owned as a child.
     EventLogPanel *events = nullptr; ///< Owned as a child.
     SendersPanel *senders = nullptr; ///< Owned as a child.

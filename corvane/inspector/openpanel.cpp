@@ -2,6 +2,7 @@
 
 #include "hostfeed.h"
 #include "noticearea.h"
+#include "options.h"
 
 #include <QComboBox>
 #include <QDragEnterEvent>
@@ -273,9 +274,7 @@ void OpenPanel::refreshRecent()
     const auto choices = recent.get();
     for (const SourceChoice &choice : choices) {
         auto *item = new QListWidgetItem(choice.source, recentList);
-        item->setToolTip(QStringList(choice.definitions + choice.overlays)
-                             .join(QLatin1Char('\n'))
-                             .toHtmlEscaped());
+        item->setToolTip(QStringList(choice.definitions + choice.overlays).join(QLatin1Char('\n')));
     }
     if (choices.isEmpty()) {
         auto *item
@@ -334,13 +333,16 @@ QString OpenPanel::missing(const SourceChoice &choice) const
 {
     if (choice.source.isEmpty())
         return tr("Name the source: %1.").arg(kind->currentText());
-    if (choice.definitions.isEmpty())
+    const SourceAddressResult source = SourceAddress::parse(choice.source);
+    if (!source.address)
+        return source.error;
+    if (choice.definitions.isEmpty() && !bringsDefinitions(*source.address))
         return tr("The messages of %1 cannot be read without their definitions. Add the files "
                   "that describe them: for MAVLink a dialect (.xml), such as common.xml, with the "
                   "files that it includes beside it; for Protocol Buffers the .proto files, or a "
                   "descriptor set (.desc, .pb), and the root type.")
             .arg(choice.source);
-    return SourceAddress::parse(choice.source).error;
+    return {};
 }
 
 void OpenPanel::open()

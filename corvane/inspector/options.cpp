@@ -1,5 +1,7 @@
 #include "options.h"
 
+#include "mcapformat.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -219,7 +221,8 @@ private:
             complain(tr("--report needs a SOURCE to read; see --help."));
         // The window asks for what is missing.
         const bool asks = options.opensWindow() && !photographs;
-        if (options.source && options.definitions.isEmpty() && !asks)
+        if (options.source && options.definitions.isEmpty() && !asks
+            && !bringsDefinitions(*options.source))
             complain(tr("Messages cannot be read without their definitions: name a MAVLink dialect "
                         "or Protocol Buffers files with --definitions FILE."));
         const bool isFile = options.source && options.source->kind == SourceAddress::Kind::File;
@@ -280,6 +283,11 @@ QString Options::getHelpText()
     QCommandLineParser parser;
     describe(parser);
     return parser.helpText();
+}
+
+bool bringsDefinitions(const SourceAddress &source)
+{
+    return source.kind == SourceAddress::Kind::File && McapFormat::isMcapFile(source.text);
 }
 
 } // namespace corvane

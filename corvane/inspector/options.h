@@ -55,4 +55,7 @@ struct Options
     std::optional<SourceAddress> source;
 };
 
+/** Whether \a source is a file that defines its messages itself. */
+bool bringsDefinitions(const SourceAddress &source);
+
 } // namespace corvane

@@ -172,6 +172,7 @@ void writeTotals(QTextStream &out, const Reception::Totals &totals)
 
 void writeMessages(QTextStream &out, Reception &reception)
 {
+    const bool hasChecksum = reception.getTotals().crcErrors.has_value();
     out << '\n'
         << tr("     Count   CRC errors  Gaps (missing epochs)  Interval         Message") << '\n';
     for (const MessageStatistics *type : reception.getStatistics()->getAllMessageStatistics()) {
@@ -181,9 +182,11 @@ void writeMessages(QTextStream &out, Reception &reception)
         const QString interval = type->isCurrentlyRegular()
                                      ? MessageStatistics::getIntervalString(type->getLastInterval())
                                      : tr("not regular");
+        const QString crcErrors
+            = hasChecksum ? QString::number(type->getData()->crcErrors) : QStringLiteral("-");
         out << QStringLiteral("%1   %2  %3  %4  %5")
                    .arg(type->getData()->received, 10)
-                   .arg(type->getData()->crcErrors, 10)
+                   .arg(crcErrors, 10)
                    .arg(gaps, 21)
                    .arg(interval, -15)
                    .arg(type->getMessageName())
@@ -251,6 +254,14 @@ QByteArray makeTextReport(const QString &source, Reception &reception, const Rep
     writeSenders(out, reception);
     writeEvents(out, reception);
     out.flush();
+    return withoutControls(QString::fromUtf8(text)).toUtf8();
+}
+
+QString withoutControls(QString text)
+{
+    for (QChar &character : text)
+        if (character.category() == QChar::Other_Control && character != QLatin1Char('\n'))
+            character = QChar::ReplacementCharacter;
     return text;
 }
 

@@ -25,4 +25,8 @@ makeJsonReport(const QString &source, Reception &reception, const ReportedEffort
 QByteArray
 makeTextReport(const QString &source, Reception &reception, const ReportedEffort &effort);
 
+/** \a text with U+FFFD for control characters other than line breaks, which a terminal would obey.
+ */
+QString withoutControls(QString text);
+
 } // namespace corvane

@@ -5,6 +5,7 @@
 #include "descriptions.h"
 #include "fileindex.h"
 #include "mavlinkformat.h"
+#include "mcapformat.h"
 #include "messageinfo.h"
 #include "overlayloader.h"
 #include "playback.h"
@@ -78,8 +79,11 @@ QStringList Session::load(const Options &options)
 {
     if (const QString problem = chooseFormat(options); !problem.isEmpty())
         return {problem};
+    const bool bringsThem = options.source && bringsDefinitions(*options.source);
+    const QStringList definitions
+        = bringsThem ? QStringList{options.source->text} : options.definitions;
     QStringList errors;
-    for (const LoadError &error : format->loadFiles(options.definitions).errors)
+    for (const LoadError &error : format->loadFiles(definitions).errors)
         errors.append(error.toString());
     // An overlay speaks of what the definitions describe; without them it would only add errors.
     if (errors.isEmpty())
@@ -102,6 +106,13 @@ void Session::setFormat(std::unique_ptr<StreamFormat> newFormat)
 
 QString Session::chooseFormat(const Options &options)
 {
+    if (options.source && bringsDefinitions(*options.source)) {
+        if (!options.definitions.isEmpty() || !options.root.isEmpty())
+            return tr("An MCAP file brings its own definitions. Leave out --definitions and "
+                      "--root.");
+        setFormat(std::make_unique<McapFormat>());
+        return {};
+    }
     const auto protobufFiles
         = std::count_if(options.definitions.begin(), options.definitions.end(), isProtobuf);
     if (protobufFiles != 0 && protobufFiles != options.definitions.size())

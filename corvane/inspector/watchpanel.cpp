@@ -9,6 +9,7 @@
 #include "pathexpressioncombobox.h"
 #include "pathexpressionlineedit.h"
 #include "pathexpressionlistwidget.h"
+#include "steadytreewidget.h"
 
 #include <QAction>
 #include <QCompleter>
@@ -256,7 +257,15 @@ void WatchPanel::showLatest(const Row &row)
         return;
     for (const MessageInfo *type : row.field->getMessageInfos())
         if (const Message *message = latest.get(type))
-            row.label->processMessage(message);
+            showValue(message, *row.label);
+}
+
+void WatchPanel::showValue(const Message *message, FieldValueLabel &label)
+{
+    label.processMessage(message);
+    // A text of any length may come, which would be laid out as a whole.
+    if (const QString text = SteadyTreeWidget::shortened(label.text()); text != label.text())
+        label.setText(text);
 }
 
 void WatchPanel::showAllLatest()
@@ -325,7 +334,7 @@ void WatchPanel::processMessage(const Message *message)
     for (Row &row : rows) {
         if (row.field == nullptr || !row.field->occursIn(message->getInfo()))
             continue;
-        row.label->processMessage(message);
+        showValue(message, *row.label);
         row.absent = row.field->getNumberOfValues(message) == 0;
         row.sinceValue.start();
     }

@@ -81,6 +81,7 @@ private:
     void completeOptions();
     void followParts();
     void createLabel(Row &row);
+    static void showValue(const Message *message, FieldValueLabel &label);
     void showLatest(const Row &row);
     void showAllLatest();
     void forgetValues();

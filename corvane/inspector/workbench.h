@@ -1,6 +1,7 @@
 #pragma once
 
 #include "options.h"
+#include "plaintooltips.h"
 
 #include <QObject>
 
@@ -43,6 +44,7 @@ private:
     void takeFiles(const QStringList &files);
     void createWindow(const Options &options);
 
+    PlainToolTips plainToolTips;
     Options options;
     QSettings &settings;
     std::unique_ptr<OpenPanel> openPanel;

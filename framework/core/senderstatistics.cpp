@@ -44,7 +44,7 @@ void SenderTable::forgetSequences()
 }
 
 SenderTable::SenderTable(Namer namer, quint32 lastNumber)
-    : namer(namer)
+    : namer(std::move(namer))
     , lastNumber(lastNumber)
 {
 }

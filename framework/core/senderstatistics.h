@@ -6,6 +6,7 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -42,7 +43,7 @@ struct CORVANEFRAMEWORK_EXPORT SenderStatistics
 class CORVANEFRAMEWORK_EXPORT SenderTable
 {
 public:
-    using Namer = QString (*)(quint32 senderId);
+    using Namer = std::function<QString(quint32 senderId)>;
 
     /** \a namer gives the id that people read; \a lastNumber: as for SenderStatistics. */
     explicit SenderTable(Namer namer, quint32 lastNumber = 0xFF);

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void report_fromStandardInput();
     void report_fromProgram();
     void report_fromListenedSocket_endsWithDuration();
+    void report_ofTheHostFeed_hasItsMessages();
     void report_confidentialValues_areNowhere();
     void mistake_exitsWith1AndSaysWhere_data();
     void mistake_exitsWith1AndSaysWhere();
@@ -299,6 +300,27 @@ void tst_inspector::report_fromListenedSocket_endsWithDuration()
     QCOMPARE(report.value("bytes").toInteger(), 30'000);
     QVERIFY(report.value("frames").toInteger() > 500);
     QCOMPARE(report.value("performance")["backlogBytes"].toInteger(-1), 0);
+}
+
+void tst_inspector::report_ofTheHostFeed_hasItsMessages()
+{
+    const QString folder = sourceFile(QStringLiteral("corvane/hostfeed")) + QLatin1Char('/');
+    const QJsonObject report
+        = run({"--definitions", folder + "host.proto", "--overlay", folder + "host.overlay.json",
+               "--report", "json", "--duration", "2",
+               QStringLiteral("exec:'%1' --interval 100").arg(CORVANE_HOSTFEED)})
+              .json();
+    QVERIFY(report["frames"].toInt() >= 9);
+    QCOMPARE(report["unknownFrames"].toInt(), 0);
+    QCOMPARE(report["skippedBytes"].toInt(), 0);
+    QVERIFY(report["crcErrors"].isNull());
+    QStringList names;
+    for (const QJsonValue message : report["messages"].toArray())
+        names.append(message["name"].toString());
+    names.sort();
+    QCOMPARE(names, QStringList({"Disks", "Kernel", "Load averages", "Memory", "Network",
+                                 "Processes", "Processor", "Temperatures", "This stream"}));
+    QCOMPARE(report["senders"][0]["lost"].toInt(), 0);
 }
 
 void tst_inspector::report_confidentialValues_areNowhere()

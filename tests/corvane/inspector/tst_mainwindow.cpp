@@ -1,8 +1,11 @@
 #include "abstractplotpanel.h"
+#include "bytespanel.h"
 #include "exportbar.h"
 #include "exportcontroller.h"
 #include "fieldvaluelabel.h"
+#include "inspectortree.h"
 #include "mainwindow.h"
+#include "messagetreepanel.h"
 #include "messagewidget.h"
 #include "session.h"
 #include "shownwindow.h"
@@ -18,6 +21,7 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QToolBar>
 #include <QTreeView>
@@ -44,6 +48,9 @@ private Q_SLOTS:
     void paused_viewsStandStillAndTheBarSaysWhatCame();
     void plot_isAPanelOrSaysThatItIsMissing();
     void plot_isPausedAndRemembered();
+    void rowActions_reachThePanels_data();
+    void rowActions_reachThePanels();
+    void bytes_followWhatIsChosen();
     void exportedStatistics_areToldAboveTheViews();
     void transportBar_isThereForRecordingsOnly();
     void layout_isRememberedByTheSettings();
@@ -205,6 +212,55 @@ void tst_mainwindow::plot_isPausedAndRemembered()
              QStringList(QStringLiteral("MAVLink.MOTION.heading")));
 }
 
+void tst_mainwindow::rowActions_reachThePanels_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("dock");
+    QTest::newRow("watch") << "Add to &Watch"
+                           << "watch";
+    QTest::newRow("plot") << "P&lot"
+                          << "plot";
+    QTest::newRow("form") << "Show &Form"
+                          << "form";
+    QTest::newRow("bytes") << "Show &Bytes"
+                           << "bytes";
+}
+
+void tst_mainwindow::rowActions_reachThePanels()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, dock);
+    const ShownWindow shown;
+    if (dock == "plot" && shown.window->findChild<AbstractPlotPanel *>() == nullptr)
+        QSKIP("this build has no plot");
+    for (auto *closed : shown.window->findChildren<QDockWidget *>())
+        closed->close();
+    shown.chooseRow("satellites");
+    QVERIFY(shown.action(action)->isEnabled());
+    shown.action(action)->trigger();
+    QVERIFY(shown.window->findChild<QDockWidget *>(dock)->isVisible());
+    QStringList paths;
+    for (const auto *table : shown.window->findChildren<QTableWidget *>())
+        for (int row = 0; row < table->rowCount(); ++row)
+            for (int column = 0; column < table->columnCount(); ++column)
+                if (const auto *cell = table->item(row, column))
+                    paths += cell->text() + cell->toolTip();
+    const bool isListed = paths.join(' ').contains("POSITION.satellites");
+    QCOMPARE(isListed, dock == "watch" || dock == "plot");
+}
+
+void tst_mainwindow::bytes_followWhatIsChosen()
+{
+    const ShownWindow shown;
+    shown.window->findChild<QDockWidget *>("bytes")->raise();
+    QTRY_VERIFY(shown.window->findChild<BytesPanel *>()->isVisible());
+    shown.choose("BATTERY");
+    QTRY_VERIFY(shown.says("BATTERY: "));
+    shown.chooseRow("satellites");
+    QVERIFY(shown.says("satellites: offset "));
+    QCOMPARE(shown.types()->currentIndex(), shown.indexOf("POSITION"));
+}
+
 void tst_mainwindow::exportedStatistics_areToldAboveTheViews()
 {
     const ShownWindow shown;
@@ -231,7 +287,7 @@ void tst_mainwindow::layout_isRememberedByTheSettings()
 {
     const ShownWindow shown;
     shown.window->findChild<QDockWidget *>(QStringLiteral("form"))->close();
-    shown.window->resize(700, 510);
+    shown.window->resize(700, 560);
     shown.window->close();
     Session session;
     QSettings settings(shown.settings.fileName(), QSettings::IniFormat);
@@ -239,7 +295,7 @@ void tst_mainwindow::layout_isRememberedByTheSettings()
     next.show();
     QVERIFY(!next.findChild<QDockWidget *>(QStringLiteral("form"))->isVisible());
     QVERIFY(next.findChild<QDockWidget *>(QStringLiteral("types"))->isVisible());
-    QCOMPARE(next.size(), QSize(700, 510));
+    QCOMPARE(next.size(), QSize(700, 560));
 }
 
 void tst_mainwindow::layout_ofRandomBytes_startsWithTheDefault()
