@@ -81,11 +81,13 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     , exports(new ExportController(session, this))
 {
     setDockNestingEnabled(true);
+    setIconSize(QSize(20, 20));
     setAcceptDrops(true);
     createTypeView();
     createActions();
     createMenus();
     createToolBar();
+    createNoticeBar();
     createPanels();
     createHelp();
     createStatusBar();
@@ -150,6 +152,23 @@ void MainWindow::createToolBar()
     viewMenu->addAction(bar->toggleViewAction());
 }
 
+/** Over the whole width, so that most texts take one line. */
+void MainWindow::createNoticeBar()
+{
+    noticeBar = new QToolBar(tr("Notices"), this);
+    noticeBar->setObjectName(QStringLiteral("notices"));
+    noticeBar->setMovable(false);
+    noticeBar->toggleViewAction()->setVisible(false);
+    QAction *shown = noticeBar->addWidget(notices);
+    addToolBarBreak();
+    addToolBar(noticeBar);
+    noticeBar->hide();
+    connect(notices, &NoticeArea::filled, this, [this, shown](bool hasNotices) {
+        shown->setVisible(hasNotices);
+        noticeBar->setVisible(hasNotices);
+    });
+}
+
 void MainWindow::createMenus()
 {
     QMenu *fileMenu = menuBar()->addMenu(tr("&File"));
@@ -175,7 +194,6 @@ void MainWindow::createPanels()
     auto *centre = new QWidget(this);
     auto *column = new QVBoxLayout(centre);
     column->setContentsMargins({});
-    column->addWidget(notices);
     column->addWidget(exports->getBar());
     column->addWidget(tree, 1);
     setCentralWidget(centre);
@@ -244,6 +262,7 @@ void MainWindow::createHelp()
     helpDock = addPanel(help, QStringLiteral("help"), tr("Help"), Qt::RightDockWidgetArea);
     tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("watch")), helpDock);
     helpDock->hide();
+    raisePanel(form);
     QMenu *menu = menuBar()->addMenu(tr("&Help"));
     QAction *contents
         = menu->addAction(makeIcon(QStringLiteral("help-contents")), tr("&Uses and Keys"));
@@ -279,6 +298,7 @@ void MainWindow::restoreLayout()
     // Qt refuses what it did not write itself, and leaves the window as it is then.
     restoreGeometry(settings.value(geometryKey()).toByteArray());
     restoreState(settings.value(layoutKey()).toByteArray());
+    noticeBar->setVisible(!notices->isEmpty());
     typeView->header()->restoreState(settings.value(typesKey()).toByteArray());
     restoreCollapsedTypes(settings, *session.getReception().getFormat());
     tree->restoreSettings(settings);
@@ -346,6 +366,7 @@ void MainWindow::connectRowActions()
     actions->setPlotAvailable(plot != nullptr);
     connect(tree, &MessageTreePanel::placeChosen, bytes, &BytesPanel::setPlace);
     connect(bytes, &BytesPanel::placeActivated, tree, &MessageTreePanel::goTo);
+    connect(latest, &LatestMessages::senderChanged, bytes, &BytesPanel::clear);
     connect(actions, &RowActions::watchRequested, this, [this](const QString &path) {
         watch->watch(path);
         raisePanel(watch);
@@ -387,8 +408,8 @@ void MainWindow::applyViewSettings()
     transport->setUtc(viewSettings->isUtc());
     QFont viewFont = font();
     viewFont.setPointSizeF(viewFont.pointSizeF() * viewSettings->getZoom() / 100.0);
-    for (QWidget *view :
-         std::initializer_list<QWidget *>{typeView, tree, form, watch, statistics, senders, events})
+    for (QWidget *view : std::initializer_list<QWidget *>{typeView, tree, form, watch, statistics,
+                                                          senders, events, bytes})
         view->setFont(viewFont);
     if (plot == nullptr)
         return;

@@ -11,6 +11,7 @@ class QDockWidget;
 class QMenu;
 class QSettings;
 class QSortFilterProxyModel;
+class QToolBar;
 class QTreeView;
 
 namespace corvane {
@@ -72,6 +73,7 @@ private:
     void createActions();
     void createMenus();
     void createToolBar();
+    void createNoticeBar();
     void createHelp();
     void createStatusBar();
     void connectAll();
@@ -114,6 +116,7 @@ private:
     QDockWidget *helpDock = nullptr; ///< Owned as a child.
     TransportBar *transport = nullptr; ///< Owned as a child.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
+    QToolBar *noticeBar = nullptr; ///< Owned as a child.
     SenderChooser *senderChooser = nullptr; ///< Owned as a child.
     QAction *senderAction = nullptr; ///< Shows and hides the chooser. Owned as a child.
     QAction *openAction = nullptr; ///< Owned as a child.

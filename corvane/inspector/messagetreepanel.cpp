@@ -205,6 +205,8 @@ void MessageTreePanel::createMenu()
     addFindActions();
     menu->addSeparator();
     QList<QAction *> columns = tree->getToggleColumnActions();
+    for (QAction *toggle : std::as_const(columns))
+        toggle->setToolTip(tr("Show or hide this column"));
     columns += history->getAction();
     menu->addActions(columns);
     tree->header()->addActions(columns);

@@ -51,6 +51,8 @@ constexpr std::array knownKeys{
     KnownKey{"tree/expandedMessages", Kind::Texts},
     KnownKey{"tree/expandedFields", Kind::Texts},
     KnownKey{"tree/collapsedMessages", Kind::Texts},
+    KnownKey{"tree/hexadecimal", Kind::Boolean},
+    KnownKey{"tree/units", Kind::Boolean},
     KnownKey{"tree/showVirtual", Kind::Boolean},
     KnownKey{"tree/showSecondary", Kind::Boolean},
     KnownKey{"tree/showAllTypes", Kind::Boolean},

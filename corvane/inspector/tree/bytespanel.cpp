@@ -64,6 +64,12 @@ void BytesPanel::processMessage(const Message *newMessage)
     refresh();
 }
 
+void BytesPanel::clear()
+{
+    setMessage(nullptr);
+    refresh();
+}
+
 void BytesPanel::setMessage(const Message *newMessage)
 {
     if (newMessage != nullptr)

@@ -64,7 +64,7 @@ void tst_helppanel::about_hasTheVersions()
 void tst_helppanel::actions_haveToolTips()
 {
     const ShownWindow shown;
-    for (const QMenu *menu : shown.window->menuBar()->findChildren<QMenu *>()) {
+    for (const QMenu *menu : shown.window->findChildren<QMenu *>()) {
         for (const QAction *action : menu->actions()) {
             if (action->isSeparator() || action->menu() != nullptr)
                 continue;

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void exportedStatistics_areToldAboveTheViews();
     void transportBar_isThereForRecordingsOnly();
     void layout_isRememberedByTheSettings();
+    void layout_atFirst_showsTheForm();
     void layout_ofRandomBytes_startsWithTheDefault();
 };
 
@@ -305,6 +306,19 @@ void tst_mainwindow::layout_isRememberedByTheSettings()
     QVERIFY(!next.findChild<QDockWidget *>(QStringLiteral("form"))->isVisible());
     QVERIFY(next.findChild<QDockWidget *>(QStringLiteral("types"))->isVisible());
     QCOMPARE(next.size(), QSize(700, 560));
+}
+
+void tst_mainwindow::layout_atFirst_showsTheForm()
+{
+    const ShownWindow shown;
+    const auto isInFront = [&shown](const char *name) {
+        return !shown.window->findChild<QDockWidget *>(QLatin1String(name))
+                    ->visibleRegion()
+                    .isEmpty();
+    };
+    QTRY_VERIFY(isInFront("form"));
+    QVERIFY(isInFront("types") && isInFront("statistics"));
+    QVERIFY(!isInFront("watch") && !isInFront("help"));
 }
 
 void tst_mainwindow::layout_ofRandomBytes_startsWithTheDefault()
