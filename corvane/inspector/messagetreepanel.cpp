@@ -218,17 +218,17 @@ void MessageTreePanel::createMenu()
     rowMenu->addActions(rowActions->getActions());
 }
 
-QAction *MessageTreePanel::addAction(const QString &text,
-                                     const QKeySequence &key,
-                                     const QString &toolTip,
-                                     Qt::ShortcutContext context)
+QAction *MessageTreePanel::addMenuAction(const QString &text,
+                                         const QKeySequence &key,
+                                         const QString &toolTip,
+                                         Qt::ShortcutContext context)
 {
     QAction *action = menu->addAction(text);
     action->setShortcut(key);
     action->setShortcutContext(context);
     action->setToolTip(
         QStringLiteral("%1 (%2)").arg(toolTip, key.toString(QKeySequence::NativeText)));
-    tree->QWidget::addAction(action);
+    tree->addAction(action);
     return action;
 }
 
@@ -236,7 +236,7 @@ void MessageTreePanel::addFindActions()
 {
     const auto add
         = [this](const QString &text, const QString &key, const QString &toolTip, auto slot) {
-              connect(addAction(text, key, toolTip, Qt::WindowShortcut), &QAction::triggered,
+              connect(addMenuAction(text, key, toolTip, Qt::WindowShortcut), &QAction::triggered,
                       findBar, slot);
           };
     add(tr("&Find…"), tr("Ctrl+F"), tr("Find a row by name, value or path"), &FindBar::open);
@@ -275,8 +275,8 @@ void MessageTreePanel::addExpansionActions()
 {
     const auto add
         = [this](const QString &text, const QString &key, const QString &toolTip, bool expanded) {
-              connect(addAction(text, key, toolTip, Qt::WidgetShortcut), &QAction::triggered, tree,
-                      [this, expanded] { tree->setAllExpanded(expanded); });
+              connect(addMenuAction(text, key, toolTip, Qt::WidgetShortcut), &QAction::triggered,
+                      tree, [this, expanded] { tree->setAllExpanded(expanded); });
           };
     add(tr("&Expand All"), tr("Ctrl+Right"), tr("Expand all rows"), true);
     add(tr("C&ollapse All"), tr("Ctrl+Left"), tr("Collapse all rows"), false);
