@@ -213,7 +213,7 @@ void MessageTreePanel::createMenu()
     addSwitches();
     menu->addSeparator();
     addExpansionActions();
-    QMenu *rowMenu = menu->addMenu(tr("Curre&nt Row"));
+    QMenu *rowMenu = menu->addMenu(tr("Current Ro&w"));
     rowMenu->setToolTipsVisible(true);
     rowMenu->addActions(rowActions->getActions());
 }
@@ -258,7 +258,7 @@ void MessageTreePanel::addSwitches()
           };
     unitsAction = add(tr("&Units"), tree->areUnitsShown(), tr("Show units beside numbers"), tree,
                       &InspectorTree::setUnitsShown);
-    hexadecimalAction = add(tr("&Hexadecimal"), tree->isHexadecimalShown(),
+    hexadecimalAction = add(tr("He&xadecimal"), tree->isHexadecimalShown(),
                             tr("Show integers in hexadecimal digits as well"), tree,
                             &InspectorTree::setHexadecimalShown);
     menu->addSeparator();
