@@ -1,5 +1,6 @@
 // Reads the input as steps of the debug message buffer and compares with the model after each.
 
+#include "fuzzinput.h"
 #include "msgbuffermodel.h"
 
 #include <cstdint>
@@ -7,31 +8,9 @@
 #include <cstdlib>
 #include <string>
 
+using corvane::fuzz::Input;
+
 namespace {
-
-class Input
-{
-public:
-    Input(const uint8_t *bytes, size_t count)
-        : next(bytes)
-        , end(bytes + count)
-    {
-    }
-
-    bool isEmpty() const { return next == end; }
-
-    unsigned takeByte() { return isEmpty() ? 0u : *next++; }
-
-    unsigned takeWord()
-    {
-        const unsigned high = takeByte();
-        return high << 8 | takeByte();
-    }
-
-private:
-    const uint8_t *next = nullptr;
-    const uint8_t *end = nullptr;
-};
 
 std::string doStep(corvane::test::MsgBufferExercise &exercise, Input &input)
 {

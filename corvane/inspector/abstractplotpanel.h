@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class MessageSource;
 class QSettings;
 
@@ -21,6 +23,11 @@ public:
     virtual void addSeries(const QString &path) = 0;
     /** While paused the picture stands still; samples are kept all the same. */
     virtual void setPaused(bool paused) = 0;
+    /** Shows only what comes from \a sender from now on, of all senders for nothing; forgets what
+     * came. */
+    virtual void setSender(std::optional<quint32> sender) = 0;
+    /** Shows times in UTC, else in the time zone of this machine. */
+    virtual void setUtc(bool utc) = 0;
     virtual void saveSettings(QSettings &settings) const = 0;
     virtual void restoreSettings(QSettings &settings) = 0;
 };

@@ -3,12 +3,15 @@
 #include "eventlog.h"
 #include "eventlogtablewidget.h"
 
+#include <QDateTime>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -16,13 +19,34 @@ namespace corvane {
 
 namespace {
 
+constexpr int timeColumn = 0;
 constexpr int messageColumn = 1;
 
 } // namespace
 
+/** Shows the times of the log, which stand in its cells in UTC, as people want them. */
+class LogTimeDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant &value, const QLocale &) const override
+    {
+        const QString text = value.toString();
+        const auto time = QDateTime::fromString(text, Qt::ISODate);
+        if (!time.isValid())
+            return text;
+        return utc ? time.toUTC().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss 'UTC'"))
+                   : time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    }
+
+    bool utc = false;
+};
+
 EventLogPanel::EventLogPanel(EventLog &log, QWidget *parent)
     : QWidget(parent)
     , table(new EventLogTableWidget(&log, this))
+    , timeDelegate(new LogTimeDelegate(this))
     , filterEdit(new QLineEdit(this))
     , followButton(new QToolButton(this))
     , state(new QLabel(this))
@@ -58,15 +82,18 @@ EventLogPanel::EventLogPanel(EventLog &log, QWidget *parent)
 void EventLogPanel::createTable()
 {
     table->setAccessibleName(tr("Event log"));
+    table->setMinimumHeight(fontMetrics().height() * 3);
     table->setWordWrap(false);
     table->setShowGrid(false);
+    table->setTabKeyNavigation(false); // Tab leads on to the next control
     table->setAlternatingRowColors(true);
     table->verticalHeader()->hide();
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+    fitRowHeight();
+    table->setItemDelegateForColumn(timeColumn, timeDelegate);
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setHighlightSections(false);
-    table->setColumnWidth(0, fontMetrics().averageCharWidth() * 24);
+    table->setColumnWidth(timeColumn, fontMetrics().averageCharWidth() * 24);
     QScrollBar *bar = table->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
         if (following)
@@ -76,6 +103,24 @@ void EventLogPanel::createTable()
         following = value >= bar->maximum();
         refreshState();
     });
+}
+
+void EventLogPanel::fitRowHeight()
+{
+    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+}
+
+void EventLogPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitRowHeight();
+}
+
+void EventLogPanel::setUtc(bool utc)
+{
+    timeDelegate->utc = utc;
+    table->viewport()->update();
 }
 
 void EventLogPanel::setFilter(const QString &text)

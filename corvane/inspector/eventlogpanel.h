@@ -10,6 +10,8 @@ class QToolButton;
 
 namespace corvane {
 
+class LogTimeDelegate;
+
 /**
  * The event log, which follows its end until people scroll back and again once they scroll to the
  * end; only the entries with a text in them, if one is typed.
@@ -24,11 +26,17 @@ public:
 
     /** Shows the entries that contain \a text, in any case of letters; all for an empty text. */
     void setFilter(const QString &text);
+    /** Shows times in UTC, else in the time zone of this machine. */
+    void setUtc(bool utc);
 
     bool isFollowing() const { return following; }
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void createTable();
+    void fitRowHeight();
     void filterRow(int row);
     void filterNewRows();
     void filterNewRowsSoon();
@@ -36,6 +44,7 @@ private:
     void refreshState();
 
     EventLogTableWidget *table; ///< Owned as a child.
+    LogTimeDelegate *timeDelegate; ///< Owned as a child.
     QLineEdit *filterEdit; ///< Owned as a child.
     QToolButton *followButton; ///< Owned as a child.
     QLabel *state; ///< Owned as a child.

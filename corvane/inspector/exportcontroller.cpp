@@ -3,6 +3,7 @@
 #include "exportbar.h"
 #include "exportdialog.h"
 #include "exportjob.h"
+#include "icons.h"
 #include "receptioncsv.h"
 #include "session.h"
 
@@ -40,6 +41,7 @@ ExportController::ExportController(Session &session, QWidget *window)
                                   tr("Write messages or some of their fields as CSV or JSON lines"),
                                   &ExportController::askForMessages);
     messages->setShortcut(tr("Ctrl+E"));
+    messages->setIcon(makeIcon(QStringLiteral("document-export")));
     addAction(tr("Export &Statistics..."), tr("Write the counts of all message types as CSV"),
               &ExportController::askForStatistics);
     addAction(tr("Export Event &Log..."), tr("Write the event log as CSV"),
@@ -184,6 +186,7 @@ void ExportController::exportStatistics(const QString &file)
 void ExportController::exportEventLog(const QString &file)
 {
     exportTable(file, [this](QIODevice &device) {
+        session.getReception().flushEvents();
         return writeEventLogCsv(*session.getReception().getEventLog(), device);
     });
 }

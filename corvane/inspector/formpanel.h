@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
+class Message;
 class MessageInfo;
 class MessageWidget;
 class QLabel;
@@ -24,13 +26,21 @@ public:
     /** Says \a text instead of a form, under \a title. */
     void showText(const QString &title, const QString &text);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void fitHeading();
+    void showLatest();
+    void showMessage(const Message *message);
     void setContent(const QString &title, const QString &text, const MessageInfo *type);
 
     const LatestMessages &latest;
     QLabel *heading; ///< Owned as a child.
     QLabel *description; ///< Owned as a child.
     MessageWidget *form; ///< Owned as a child.
+    QList<QLabel *> labels; ///< Owned by the form.
+    const MessageInfo *type = nullptr; ///< Not owned.
 };
 
 } // namespace corvane

@@ -2,22 +2,33 @@
 
 #include "abstractplotpanel.h"
 #include "bytespanel.h"
+#include "collapsedtypes.h"
+#include "confidentialswitch.h"
+#include "elidinglabel.h"
 #include "eventlogpanel.h"
 #include "exportbar.h"
 #include "exportcontroller.h"
 #include "formpanel.h"
+#include "helppanel.h"
 #include "hostfeed.h"
+#include "icons.h"
 #include "latestmessages.h"
 #include "message.h"
 #include "messageinfo.h"
 #include "messagestatistics.h"
 #include "messagetreepanel.h"
 #include "messagetypemodel.h"
+#include "noticearea.h"
+#include "recordcontroller.h"
 #include "rowactions.h"
+#include "senderchooser.h"
 #include "senderspanel.h"
 #include "session.h"
+#include "settingsfile.h"
 #include "statisticspanel.h"
+#include "statusfigures.h"
 #include "transportbar.h"
+#include "viewsettings.h"
 #include "watchpanel.h"
 
 #include <QCloseEvent>
@@ -25,22 +36,19 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLocale>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QTreeView>
 #include <QVBoxLayout>
 
 namespace corvane {
 
 namespace {
-
-// Counts need no more than the eye does; every message is counted all the same.
-constexpr int countsIntervalMs = 250;
 
 QString geometryKey()
 {
@@ -52,6 +60,11 @@ QString layoutKey()
     return QStringLiteral("window/layout");
 }
 
+QString typesKey()
+{
+    return QStringLiteral("window/types");
+}
+
 } // namespace
 
 MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
@@ -61,19 +74,32 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     , latest(new LatestMessages(session.getReception(), this))
     , types(new MessageTypeModel(*session.getReception().getStatistics(), this))
     , sortedTypes(new QSortFilterProxyModel(this))
+    , notices(new NoticeArea(this))
+    , confidential(new ConfidentialSwitch(*notices, this))
+    , viewSettings(new ViewSettings(settings, this))
+    , record(new RecordController(session, *notices, this))
     , exports(new ExportController(session, this))
 {
     setDockNestingEnabled(true);
     setAcceptDrops(true);
     createTypeView();
+    createActions();
     createMenus();
+    createToolBar();
     createPanels();
+    createHelp();
     createStatusBar();
     connectAll();
     resize(fontMetrics().averageCharWidth() * 230, fontMetrics().height() * 55);
     restoreLayout();
+    applyViewSettings();
     showChosenType();
     refreshCounts();
+}
+
+MainWindow::~MainWindow()
+{
+    delete confidential;
 }
 
 void MainWindow::createTypeView()
@@ -87,6 +113,7 @@ void MainWindow::createTypeView()
     typeView->setModel(sortedTypes);
     typeView->setRootIsDecorated(false);
     typeView->setUniformRowHeights(true);
+    typeView->setMinimumHeight(fontMetrics().height() * 3);
     typeView->setSortingEnabled(true);
     typeView->sortByColumn(MessageTypeModel::NameColumn, Qt::AscendingOrder);
     typeView->header()->setStretchLastSection(false);
@@ -95,21 +122,49 @@ void MainWindow::createTypeView()
                                       fontMetrics().averageCharWidth() * 14);
 }
 
+void MainWindow::createActions()
+{
+    openAction = new QAction(makeIcon(QStringLiteral("document-open")), tr("&Open…"), this);
+    openAction->setShortcut(QKeySequence::Open);
+    openAction->setToolTip(tr("Choose another source, or other definitions"));
+    connect(openAction, &QAction::triggered, this, &MainWindow::openRequested);
+    pauseAction = new QAction(makeIcon(QStringLiteral("media-playback-pause")),
+                              tr("&Pause the Views"), this);
+    pauseAction->setCheckable(true);
+    pauseAction->setShortcut(tr("Ctrl+P"));
+    pauseAction->setToolTip(tr("Leave the views as they are; everything is counted all the same"));
+}
+
+void MainWindow::createToolBar()
+{
+    auto *bar = new QToolBar(tr("Tools"), this);
+    bar->setObjectName(QStringLiteral("tools"));
+    bar->addActions({openAction, record->getAction(), exports->getActions().constFirst()});
+    bar->addSeparator();
+    bar->addActions({pauseAction, confidential->getAction()});
+    bar->addSeparator();
+    senderChooser = new SenderChooser(session.getReception().getSenders(), bar);
+    senderAction = bar->addWidget(senderChooser);
+    addToolBar(bar);
+    bar->toggleViewAction()->setToolTip(tr("Show or hide the tool bar"));
+    viewMenu->addAction(bar->toggleViewAction());
+}
+
 void MainWindow::createMenus()
 {
     QMenu *fileMenu = menuBar()->addMenu(tr("&File"));
-    QAction *open = fileMenu->addAction(tr("&Open…"), this, &MainWindow::openRequested);
-    open->setShortcut(QKeySequence::Open);
-    open->setToolTip(tr("Choose another source, or other definitions"));
+    fileMenu->addAction(openAction);
+    fileMenu->addAction(record->getAction());
     fileMenu->addActions(exports->getActions());
     fileMenu->addSeparator();
     QAction *quit = fileMenu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence::Quit);
+    quit->setToolTip(tr("Close the window; what it shows is remembered"));
     viewMenu = menuBar()->addMenu(tr("&View"));
-    pauseAction = viewMenu->addAction(tr("&Pause the Views"));
-    pauseAction->setCheckable(true);
-    pauseAction->setShortcut(tr("Ctrl+P"));
-    pauseAction->setToolTip(tr("Leave the views as they are; everything is counted all the same"));
+    viewMenu->addAction(pauseAction);
+    viewMenu->addAction(confidential->getAction());
+    viewMenu->addSeparator();
+    viewSettings->addTo(*viewMenu);
     viewMenu->addSeparator();
 }
 
@@ -120,6 +175,7 @@ void MainWindow::createPanels()
     auto *centre = new QWidget(this);
     auto *column = new QVBoxLayout(centre);
     column->setContentsMargins({});
+    column->addWidget(notices);
     column->addWidget(exports->getBar());
     column->addWidget(tree, 1);
     setCentralWidget(centre);
@@ -127,6 +183,7 @@ void MainWindow::createPanels()
     addPanel(typeView, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
     transport = new TransportBar(this);
     addToolBar(Qt::BottomToolBarArea, transport);
+    transport->toggleViewAction()->setToolTip(tr("Show or hide the bar that plays recordings"));
     viewMenu->addAction(transport->toggleViewAction());
     watch = new WatchPanel(*latest);
     QDockWidget *formDock
@@ -142,7 +199,7 @@ void MainWindow::createPanels()
     Reception &reception = session.getReception();
     statistics = new StatisticsPanel(*reception.getStatistics());
     senders = new SendersPanel(reception);
-    auto *events = new EventLogPanel(*reception.getEventLog());
+    events = new EventLogPanel(*reception.getEventLog());
     QDockWidget *statisticsDock = addPanel(statistics, QStringLiteral("statistics"),
                                            tr("Statistics"), Qt::BottomDockWidgetArea);
     QDockWidget *eventsDock
@@ -175,9 +232,46 @@ QDockWidget *MainWindow::addPanel(QWidget *panel,
     auto *dock = new QDockWidget(title, this);
     dock->setObjectName(name);
     dock->setWidget(panel);
+    dock->toggleViewAction()->setToolTip(tr("Show or hide the panel \"%1\"").arg(title));
     addDockWidget(area, dock);
     viewMenu->addAction(dock->toggleViewAction());
     return dock;
+}
+
+void MainWindow::createHelp()
+{
+    help = new HelpPanel;
+    helpDock = addPanel(help, QStringLiteral("help"), tr("Help"), Qt::RightDockWidgetArea);
+    tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("watch")), helpDock);
+    helpDock->hide();
+    QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    QAction *contents
+        = menu->addAction(makeIcon(QStringLiteral("help-contents")), tr("&Uses and Keys"));
+    contents->setShortcut(QKeySequence::HelpContents);
+    contents->setToolTip(tr("What the window is for, and all keys"));
+    connect(contents, &QAction::triggered, this, &MainWindow::showHelp);
+    QAction *versions = menu->addAction(tr("&About"));
+    versions->setToolTip(tr("The versions of the program and of what it uses"));
+    connect(versions, &QAction::triggered, this, &MainWindow::showVersions);
+    for (QMenu *one : menuBar()->findChildren<QMenu *>())
+        one->setToolTipsVisible(true);
+}
+
+void MainWindow::showHelp()
+{
+    help->describe(*this);
+    helpDock->show();
+    helpDock->raise();
+    help->setFocus();
+}
+
+void MainWindow::showVersions()
+{
+    auto *box = new QMessageBox(QMessageBox::NoIcon, tr("About"), getVersionsText(),
+                                QMessageBox::Close, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setIconPixmap(makeProgramIcon().pixmap(64, 64));
+    box->open();
 }
 
 void MainWindow::restoreLayout()
@@ -185,6 +279,8 @@ void MainWindow::restoreLayout()
     // Qt refuses what it did not write itself, and leaves the window as it is then.
     restoreGeometry(settings.value(geometryKey()).toByteArray());
     restoreState(settings.value(layoutKey()).toByteArray());
+    typeView->header()->restoreState(settings.value(typesKey()).toByteArray());
+    restoreCollapsedTypes(settings, *session.getReception().getFormat());
     tree->restoreSettings(settings);
     watch->restoreSettings(settings);
     statistics->restoreSettings(settings);
@@ -196,11 +292,14 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     settings.setValue(geometryKey(), saveGeometry());
     settings.setValue(layoutKey(), saveState());
+    settings.setValue(typesKey(), typeView->header()->saveState());
+    saveCollapsedTypes(settings, *session.getReception().getFormat());
     tree->saveSettings(settings);
     watch->saveSettings(settings);
     statistics->saveSettings(settings);
     if (plot != nullptr)
         plot->saveSettings(settings);
+    SettingsFile::seal(settings);
     QMainWindow::closeEvent(event);
 }
 
@@ -218,12 +317,10 @@ void MainWindow::dropEvent(QDropEvent *event)
 
 void MainWindow::createStatusBar()
 {
-    stateLabel = new QLabel(this);
-    stateLabel->setTextFormat(Qt::PlainText);
-    totalsLabel = new QLabel(this);
-    totalsLabel->setTextFormat(Qt::PlainText);
+    stateLabel = new ElidingLabel(this);
+    figures = new StatusFigures(session, this);
     statusBar()->addWidget(stateLabel, 1);
-    statusBar()->addPermanentWidget(totalsLabel);
+    statusBar()->addPermanentWidget(figures);
 }
 
 void MainWindow::connectAll()
@@ -235,11 +332,12 @@ void MainWindow::connectAll()
             [this] { transport->setPlayback(this->session.getPlayback()); });
     transport->setPlayback(session.getPlayback());
     connect(tree, &MessageTreePanel::typeChosen, this, &MainWindow::chooseType);
+    connect(senders, &SendersPanel::senderChosen, senderChooser, &SenderChooser::choose);
+    connect(senderChooser, &SenderChooser::chosen, this, &MainWindow::chooseSender);
     connectRowActions();
     connect(pauseAction, &QAction::toggled, this, &MainWindow::setPaused);
     connect(&countsTimer, &QTimer::timeout, this, &MainWindow::refreshCounts);
-    countsTimer.start(countsIntervalMs);
-    sinceCounts.start();
+    connect(viewSettings, &ViewSettings::changed, this, &MainWindow::applyViewSettings);
 }
 
 void MainWindow::connectRowActions()
@@ -270,14 +368,37 @@ void MainWindow::raisePanel(QWidget *panel)
 
 void MainWindow::setPaused(bool paused)
 {
-    framesAtPause = session.getReception().getTotals().frames;
     latest->setPaused(paused);
+    figures->setPaused(paused);
     refreshCounts();
+}
+
+void MainWindow::chooseSender(std::optional<quint32> sender)
+{
+    latest->setSender(sender);
+    if (plot != nullptr)
+        plot->setSender(sender);
+}
+
+void MainWindow::applyViewSettings()
+{
+    countsTimer.start(viewSettings->getRefreshMs());
+    events->setUtc(viewSettings->isUtc());
+    transport->setUtc(viewSettings->isUtc());
+    QFont viewFont = font();
+    viewFont.setPointSizeF(viewFont.pointSizeF() * viewSettings->getZoom() / 100.0);
+    for (QWidget *view :
+         std::initializer_list<QWidget *>{typeView, tree, form, watch, statistics, senders, events})
+        view->setFont(viewFont);
+    if (plot == nullptr)
+        return;
+    plot->setUtc(viewSettings->isUtc());
+    plot->setFont(viewFont);
 }
 
 void MainWindow::showState(const QString &text)
 {
-    stateLabel->setText(text);
+    stateLabel->say(text);
 }
 
 void MainWindow::chooseFirstType()
@@ -328,23 +449,9 @@ void MainWindow::refreshCounts()
         statistics->refresh();
         senders->refresh();
     }
-    const Reception::Totals &totals = session.getReception().getTotals();
-    const double seconds = static_cast<double>(sinceCounts.restart()) / 1000.0;
-    const auto newFrames = static_cast<double>(totals.frames - framesAtCounts);
-    framesAtCounts = totals.frames;
-    const QLocale locale;
-    QString text = tr("Messages: %1 (%2 per second)")
-                       .arg(locale.toString(totals.frames),
-                            locale.toString(seconds > 0 ? qRound64(newFrames / seconds) : 0));
-    if (totals.crcErrors.value_or(0) > 0)
-        text += tr(", CRC errors: %1").arg(locale.toString(*totals.crcErrors));
-    if (totals.unknownFrames > 0)
-        text += tr(", unknown: %1").arg(locale.toString(totals.unknownFrames));
-    if (const auto dropped = session.getDroppedCount(); dropped.value_or(0) > 0)
-        text += tr(", datagrams dropped: %1").arg(locale.toString(*dropped));
-    if (latest->isPaused())
-        text = tr("Paused, new: %1; ").arg(locale.toString(totals.frames - framesAtPause)) + text;
-    totalsLabel->setText(text);
+    figures->refresh();
+    senderChooser->refresh();
+    senderAction->setVisible(senderChooser->hasChoice());
 }
 
 } // namespace corvane

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
+
+#include <optional>
 
 class MessageInfo;
 class QAction;
 class QDockWidget;
-class QLabel;
 class QMenu;
 class QSettings;
 class QSortFilterProxyModel;
@@ -16,17 +16,25 @@ class QTreeView;
 namespace corvane {
 
 class AbstractPlotPanel;
+class ConfidentialSwitch;
+class ElidingLabel;
 class BytesPanel;
 class EventLogPanel;
 class ExportController;
 class FormPanel;
+class HelpPanel;
 class LatestMessages;
 class MessageTreePanel;
 class MessageTypeModel;
+class NoticeArea;
+class RecordController;
 class SendersPanel;
+class SenderChooser;
 class Session;
 class StatisticsPanel;
+class StatusFigures;
 class TransportBar;
+class ViewSettings;
 class WatchPanel;
 
 /** The inspector's window: panels that each show another side of what is received, live. */
@@ -37,6 +45,10 @@ class MainWindow : public QMainWindow
 public:
     /** Neither \a session nor \a settings is owned; both must outlive the window. */
     MainWindow(Session &session, QSettings &settings, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /** Where the window says things; owned by it. */
+    NoticeArea *getNotices() const { return notices; }
 
     /** Shows \a text in the bar at the bottom until the next one. */
     void showState(const QString &text);
@@ -57,7 +69,10 @@ private:
     void createTypeView();
     void createPanels();
     void createPlot(QDockWidget *neighbour);
+    void createActions();
     void createMenus();
+    void createToolBar();
+    void createHelp();
     void createStatusBar();
     void connectAll();
     void connectRowActions();
@@ -69,6 +84,10 @@ private:
     void showChosenType();
     void chooseType(const MessageInfo *type);
     void setPaused(bool paused);
+    void chooseSender(std::optional<quint32> sender);
+    void applyViewSettings();
+    void showHelp();
+    void showVersions();
     void refreshCounts();
     QString getPlaceholderText() const;
 
@@ -77,6 +96,10 @@ private:
     LatestMessages *latest; ///< Owned as a child.
     MessageTypeModel *types; ///< Owned as a child.
     QSortFilterProxyModel *sortedTypes; ///< Owned as a child.
+    NoticeArea *notices; ///< Owned as a child.
+    ConfidentialSwitch *confidential; ///< Owned; gone before the views that it changes.
+    ViewSettings *viewSettings; ///< Owned as a child.
+    RecordController *record; ///< Owned as a child.
     ExportController *exports; ///< Owned as a child.
     QTreeView *typeView = nullptr; ///< Owned as a child.
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
@@ -84,17 +107,20 @@ private:
     WatchPanel *watch = nullptr; ///< Owned as a child.
     BytesPanel *bytes = nullptr; ///< Owned as a child.
     StatisticsPanel *statistics = nullptr; ///< Owned as a child.
+    EventLogPanel *events = nullptr; ///< Owned as a child.
     SendersPanel *senders = nullptr; ///< Owned as a child.
     AbstractPlotPanel *plot = nullptr; ///< Owned as a child; null in a build without it.
+    HelpPanel *help = nullptr; ///< Owned as a child.
+    QDockWidget *helpDock = nullptr; ///< Owned as a child.
     TransportBar *transport = nullptr; ///< Owned as a child.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
+    SenderChooser *senderChooser = nullptr; ///< Owned as a child.
+    QAction *senderAction = nullptr; ///< Shows and hides the chooser. Owned as a child.
+    QAction *openAction = nullptr; ///< Owned as a child.
     QAction *pauseAction = nullptr; ///< Owned as a child.
-    QLabel *stateLabel = nullptr; ///< Owned as a child.
-    QLabel *totalsLabel = nullptr; ///< Owned as a child.
+    ElidingLabel *stateLabel = nullptr; ///< Owned as a child.
+    StatusFigures *figures = nullptr; ///< Owned as a child.
     QTimer countsTimer;
-    QElapsedTimer sinceCounts;
-    quint64 framesAtCounts = 0;
-    quint64 framesAtPause = 0;
 };
 
 } // namespace corvane

@@ -1,6 +1,7 @@
 #include "messagetreepanel.h"
 
 #include "catalogue.h"
+#include "corvane.h"
 #include "descriptions.h"
 #include "enumeration.h"
 #include "findbar.h"
@@ -107,16 +108,6 @@ public:
 // What is absent from a message changes with each of them; nobody reads faster.
 constexpr int rowStateIntervalMs = 250;
 
-QString unitsKey()
-{
-    return QStringLiteral("units");
-}
-
-QString hexadecimalKey()
-{
-    return QStringLiteral("hexadecimal");
-}
-
 } // namespace
 
 MessageTreePanel::MessageTreePanel(const LatestMessages &latest,
@@ -170,6 +161,14 @@ void MessageTreePanel::createTree()
     tree->setAccessibleName(tr("Messages"));
     connect(&latest, &LatestMessages::typeSeen, this, &MessageTreePanel::addRow);
     connect(&latest, &MessageSource::newMessage, tree, &MessageTreeWidget::processMessage);
+    connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this, [this] {
+        for (MessageTreeWidgetItem *row : std::as_const(rows))
+            row->configureInTreeWidget();
+    });
+    connect(&latest, &LatestMessages::senderChanged, this, [this] {
+        for (MessageTreeWidgetItem *row : std::as_const(rows))
+            row->clearValues();
+    });
     connect(tree, &QTreeWidget::currentItemChanged, this, &MessageTreePanel::announceChoice);
     connect(rowActions, &RowActions::filterRequested, this, &MessageTreePanel::filterBy);
     connect(findBar, &FindBar::rowNeeded, this, &MessageTreePanel::addRow);
@@ -247,26 +246,29 @@ void MessageTreePanel::addFindActions()
 
 void MessageTreePanel::addSwitches()
 {
-    const auto add
-        = [this](const QString &text, bool on, const QString &toolTip, auto receiver, auto slot) {
-              QAction *action = menu->addAction(text);
-              action->setCheckable(true);
-              action->setChecked(on);
-              action->setToolTip(toolTip);
-              connect(action, &QAction::toggled, receiver, slot);
-              return action;
-          };
-    unitsAction = add(tr("&Units"), tree->areUnitsShown(), tr("Show units beside numbers"), tree,
-                      &InspectorTree::setUnitsShown);
-    hexadecimalAction = add(tr("He&xadecimal"), tree->isHexadecimalShown(),
-                            tr("Show integers in hexadecimal digits as well"), tree,
-                            &InspectorTree::setHexadecimalShown);
+    const auto add = [this](const char *name, const QString &text, bool on, const QString &toolTip,
+                            auto receiver, auto slot) {
+        QAction *action = menu->addAction(text);
+        action->setObjectName(QLatin1String(name));
+        action->setCheckable(true);
+        action->setChecked(on);
+        action->setToolTip(toolTip);
+        connect(action, &QAction::toggled, receiver, slot);
+        switches.append(action);
+        return action;
+    };
+    add("units", tr("&Units"), tree->areUnitsShown(), tr("Show units beside numbers"), tree,
+        &InspectorTree::setUnitsShown);
+    add("hexadecimal", tr("He&xadecimal"), tree->isHexadecimalShown(),
+        tr("Show integers in hexadecimal digits as well"), tree,
+        &InspectorTree::setHexadecimalShown);
     menu->addSeparator();
-    add(tr("&Computed Fields"), true, tr("Show fields that are computed from others"), tree,
+    add("showVirtual", tr("&Computed Fields"), true,
+        tr("Show fields that are computed from others"), tree,
         &MessageTreeWidget::setShowVirtualFields);
-    add(tr("&Secondary Fields"), true, tr("Show details that few readers want"), tree,
-        [this](bool shown) { tree->setShowPrimaryFieldsOnly(!shown); });
-    allTypesAction = add(tr("All &Known Message Types"), false,
+    add("showSecondary", tr("&Secondary Fields"), true, tr("Show details that few readers want"),
+        tree, [this](bool shown) { tree->setShowPrimaryFieldsOnly(!shown); });
+    allTypesAction = add("showAllTypes", tr("All &Known Message Types"), false,
                          tr("Show types of which no message has come yet as well"), this,
                          &MessageTreePanel::setAllTypesShown);
 }
@@ -298,8 +300,8 @@ void MessageTreePanel::restoreSettings(QSettings &settings)
     }
     tree->loadExpansionState(settings);
     history->followColumns();
-    unitsAction->setChecked(settings.value(unitsKey(), true).toBool());
-    hexadecimalAction->setChecked(settings.value(hexadecimalKey(), false).toBool());
+    for (QAction *action : std::as_const(switches))
+        action->setChecked(settings.value(action->objectName(), action->isChecked()).toBool());
     settings.endGroup();
 }
 
@@ -308,8 +310,8 @@ void MessageTreePanel::saveSettings(QSettings &settings)
     settings.beginGroup(settingsGroup());
     tree->saveSettings(settings);
     tree->saveExpansionState(settings);
-    settings.setValue(unitsKey(), tree->areUnitsShown());
-    settings.setValue(hexadecimalKey(), tree->isHexadecimalShown());
+    for (const QAction *action : std::as_const(switches))
+        settings.setValue(action->objectName(), action->isChecked());
     settings.endGroup();
 }
 

@@ -3,6 +3,7 @@
 #include "rowplace.h"
 
 #include <QHash>
+#include <QList>
 #include <QTimer>
 #include <QWidget>
 
@@ -94,8 +95,7 @@ private:
     QStringListModel *symbols; ///< Owned as a child. What the filter can be set to.
     QMenu *menu; ///< Owned as a child.
     QAction *allTypesAction = nullptr; ///< Owned as a child.
-    QAction *unitsAction = nullptr; ///< Owned as a child.
-    QAction *hexadecimalAction = nullptr; ///< Owned as a child.
+    QList<QAction *> switches; ///< Owned as children; remembered by their names.
     QLabel *rowState; ///< Owned as a child. What is to be said of the current row.
     QTimer rowStateTimer;
     QHash<const MessageInfo *, MessageTreeWidgetItem *> rows; ///< Owned by the tree.

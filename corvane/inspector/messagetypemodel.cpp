@@ -44,9 +44,8 @@ QVariant MessageTypeModel::data(const QModelIndex &index, int role) const
     case Qt::TextAlignmentRole:
         return isName ? QVariant() : QVariant(Qt::AlignRight | Qt::AlignVCenter);
     case Qt::ToolTipRole:
-        // As plain text: descriptions come from files and may look like markup.
         return type->getMessageInfo() != nullptr
-                   ? QVariant(type->getMessageInfo()->getShortDescriptiveText().toHtmlEscaped())
+                   ? QVariant(type->getMessageInfo()->getShortDescriptiveText())
                    : QVariant(tr("No definition describes this message."));
     default:
         return {};

@@ -1,5 +1,7 @@
 #include "options.h"
 
+#include "mcapformat.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -217,7 +219,9 @@ private:
             complain(tr("--report opens no window, so --screenshot cannot go with it."));
         if (reports && !options.source)
             complain(tr("--report needs a SOURCE to read; see --help."));
-        if (options.source && options.definitions.isEmpty())
+        // The window asks for what is missing.
+        const bool asks = options.opensWindow() && !photographs;
+        if (options.lacksDefinitions() && !asks)
             complain(tr("Messages cannot be read without their definitions: name a MAVLink dialect "
                         "or Protocol Buffers files with --definitions FILE."));
         const bool isFile = options.source && options.source->kind == SourceAddress::Kind::File;
@@ -278,6 +282,16 @@ QString Options::getHelpText()
     QCommandLineParser parser;
     describe(parser);
     return parser.helpText();
+}
+
+bool Options::lacksDefinitions() const
+{
+    return source && definitions.isEmpty() && !bringsDefinitions(*source);
+}
+
+bool bringsDefinitions(const SourceAddress &source)
+{
+    return source.kind == SourceAddress::Kind::File && McapFormat::isMcapFile(source.text);
 }
 
 } // namespace corvane

@@ -124,6 +124,39 @@ QJsonArray eventsOf(Reception &reception)
     return events;
 }
 
+quint64 ratePerSecond(const ReportedEffort &effort, const Reception::Totals &totals)
+{
+    return effort.seconds > 0
+               ? static_cast<quint64>(static_cast<double>(totals.frames) / effort.seconds)
+               : 0;
+}
+
+double roundMs(const ReportedEffort &effort)
+{
+    return static_cast<double>(effort.longestRoundUs) / 1000.0;
+}
+
+QJsonObject performanceOf(const ReportedEffort &effort, const Reception::Totals &totals)
+{
+    const QJsonValue backlog
+        = effort.backlogBytes ? QJsonValue(*effort.backlogBytes) : QJsonValue();
+    return {{QStringLiteral("seconds"), effort.seconds},
+            {QStringLiteral("messagesPerSecond"), number(ratePerSecond(effort, totals))},
+            {QStringLiteral("longestRoundMs"), roundMs(effort)},
+            {QStringLiteral("backlogBytes"), backlog}};
+}
+
+void writeEffort(QTextStream &out, const ReportedEffort &effort, const Reception::Totals &totals)
+{
+    out << tr("Read in:         %1 s (%2 messages per second; longest event round %3 ms)")
+               .arg(effort.seconds, 0, 'f', 3)
+               .arg(ratePerSecond(effort, totals))
+               .arg(roundMs(effort), 0, 'f', 1)
+        << '\n';
+    if (effort.backlogBytes)
+        out << tr("Backlog:         %1 bytes left unread").arg(*effort.backlogBytes) << '\n';
+}
+
 void writeTotals(QTextStream &out, const Reception::Totals &totals)
 {
     const QString crcErrors = totals.crcErrors ? QString::number(*totals.crcErrors)
@@ -139,6 +172,7 @@ void writeTotals(QTextStream &out, const Reception::Totals &totals)
 
 void writeMessages(QTextStream &out, Reception &reception)
 {
+    const bool hasChecksum = reception.getTotals().crcErrors.has_value();
     out << '\n'
         << tr("     Count   CRC errors  Gaps (missing epochs)  Interval         Message") << '\n';
     for (const MessageStatistics *type : reception.getStatistics()->getAllMessageStatistics()) {
@@ -148,9 +182,11 @@ void writeMessages(QTextStream &out, Reception &reception)
         const QString interval = type->isCurrentlyRegular()
                                      ? MessageStatistics::getIntervalString(type->getLastInterval())
                                      : tr("not regular");
+        const QString crcErrors
+            = hasChecksum ? QString::number(type->getData()->crcErrors) : QStringLiteral("-");
         out << QStringLiteral("%1   %2  %3  %4  %5")
                    .arg(type->getData()->received, 10)
-                   .arg(type->getData()->crcErrors, 10)
+                   .arg(crcErrors, 10)
                    .arg(gaps, 21)
                    .arg(interval, -15)
                    .arg(type->getMessageName())
@@ -184,7 +220,7 @@ void writeEvents(QTextStream &out, Reception &reception)
 
 } // namespace
 
-QByteArray makeJsonReport(const QString &source, Reception &reception)
+QByteArray makeJsonReport(const QString &source, Reception &reception, const ReportedEffort &effort)
 {
     reception.flushEvents();
     const Reception::Totals &totals = reception.getTotals();
@@ -193,6 +229,7 @@ QByteArray makeJsonReport(const QString &source, Reception &reception)
         = static_cast<quint64>(reception.getEventLog()->getEntries().size() - events.size());
     const QJsonObject report{{QStringLiteral("source"), source},
                              {QStringLiteral("bytes"), number(totals.bytes)},
+                             {QStringLiteral("performance"), performanceOf(effort, totals)},
                              {QStringLiteral("skippedBytes"), number(totals.skippedBytes)},
                              {QStringLiteral("frames"), number(totals.frames)},
                              {QStringLiteral("unknownFrames"), number(totals.unknownFrames)},
@@ -205,17 +242,26 @@ QByteArray makeJsonReport(const QString &source, Reception &reception)
     return QJsonDocument(report).toJson();
 }
 
-QByteArray makeTextReport(const QString &source, Reception &reception)
+QByteArray makeTextReport(const QString &source, Reception &reception, const ReportedEffort &effort)
 {
     reception.flushEvents();
     QByteArray text;
     QTextStream out(&text);
     out << tr("Source:          %1").arg(source) << '\n';
     writeTotals(out, reception.getTotals());
+    writeEffort(out, effort, reception.getTotals());
     writeMessages(out, reception);
     writeSenders(out, reception);
     writeEvents(out, reception);
     out.flush();
+    return withoutControls(QString::fromUtf8(text)).toUtf8();
+}
+
+QString withoutControls(QString text)
+{
+    for (QChar &character : text)
+        if (character.category() == QChar::Other_Control && character != QLatin1Char('\n'))
+            character = QChar::ReplacementCharacter;
     return text;
 }
 

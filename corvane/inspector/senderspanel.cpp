@@ -22,6 +22,7 @@ SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
     hint->setMargin(fontMetrics().height() / 2);
     tree->setAccessibleName(tr("Senders"));
     tree->setUniformRowHeights(true);
+    tree->setMinimumHeight(fontMetrics().height() * 3);
     tree->setHeaderLabels(
         {tr("Sender"), tr("Frames"), tr("Places with losses"), tr("Lost"), tr("CRC errors")});
     tree->headerItem()->setToolTip(SenderColumn,
@@ -34,6 +35,12 @@ SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
     tree->sortByColumn(SenderColumn, Qt::AscendingOrder);
     // Without a checksum there are no errors to be found, which is not the same as none found.
     tree->setColumnHidden(CrcErrorsColumn, !reception.getTotals().crcErrors.has_value());
+    tree->setToolTip(tr("Enter or a double click shows the messages of one sender only"));
+    connect(tree, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem *item) {
+        while (item->parent() != nullptr)
+            item = item->parent();
+        Q_EMIT senderChosen(item->data(SenderColumn, Qt::UserRole).toUInt());
+    });
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(hint);
@@ -60,6 +67,7 @@ void SendersPanel::refreshRow(const SenderStatistics &sender)
     Row &row = rows[&sender];
     if (row.item == nullptr) {
         row.item = new QTreeWidgetItem(tree, {sender.id});
+        row.item->setData(SenderColumn, Qt::UserRole, sender.number);
         for (int column = FramesColumn; column < ColumnCount; ++column)
             row.item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     }

@@ -25,6 +25,10 @@ public:
     /** Does nothing while nobody can see it. */
     void refresh();
 
+Q_SIGNALS:
+    /** People want to see the messages of that sender only. */
+    void senderChosen(quint32 sender);
+
 protected:
     void showEvent(QShowEvent *event) override;
 

@@ -5,6 +5,7 @@
 #include "descriptions.h"
 #include "fileindex.h"
 #include "mavlinkformat.h"
+#include "mcapformat.h"
 #include "messageinfo.h"
 #include "overlayloader.h"
 #include "playback.h"
@@ -16,9 +17,11 @@
 
 #include <QDateTime>
 #include <QFile>
-#include <QFileInfo>
+
+#include <sys/stat.h>
 
 #include <algorithm>
+#include <new>
 
 namespace corvane {
 
@@ -51,6 +54,16 @@ QByteArray headOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.read(enoughBytes) : QByteArray();
 }
 
+/** Whether both names lead to the same file, be it by a link. */
+bool isSameFile(const QString &one, const QString &other)
+{
+    struct stat first = {};
+    struct stat second = {};
+    return ::stat(QFile::encodeName(one).constData(), &first) == 0
+           && ::stat(QFile::encodeName(other).constData(), &second) == 0
+           && first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
 } // namespace
 
 Session::Session(QObject *parent)
@@ -65,10 +78,22 @@ Session::~Session() = default;
 
 QStringList Session::load(const Options &options)
 {
+    try {
+        return loadAll(options);
+    } catch (const std::bad_alloc &) {
+        return {tr("There is not enough memory to read the definitions.")};
+    }
+}
+
+QStringList Session::loadAll(const Options &options)
+{
     if (const QString problem = chooseFormat(options); !problem.isEmpty())
         return {problem};
+    const bool bringsThem = options.source && bringsDefinitions(*options.source);
+    const QStringList definitions
+        = bringsThem ? QStringList{options.source->text} : options.definitions;
     QStringList errors;
-    for (const LoadError &error : format->loadFiles(options.definitions).errors)
+    for (const LoadError &error : format->loadFiles(definitions).errors)
         errors.append(error.toString());
     // An overlay speaks of what the definitions describe; without them it would only add errors.
     if (errors.isEmpty())
@@ -91,6 +116,13 @@ void Session::setFormat(std::unique_ptr<StreamFormat> newFormat)
 
 QString Session::chooseFormat(const Options &options)
 {
+    if (options.source && bringsDefinitions(*options.source)) {
+        if (!options.definitions.isEmpty() || !options.root.isEmpty())
+            return tr("An MCAP file brings its own definitions. Leave out --definitions and "
+                      "--root.");
+        setFormat(std::make_unique<McapFormat>());
+        return {};
+    }
     const auto protobufFiles
         = std::count_if(options.definitions.begin(), options.definitions.end(), isProtobuf);
     if (protobufFiles != 0 && protobufFiles != options.definitions.size())
@@ -246,8 +278,7 @@ void Session::stop()
 
 QString Session::startRecording(const QString &path)
 {
-    const QFileInfo file(path);
-    if (source && source->getSize() && file == QFileInfo(source->getName()))
+    if (source && source->getSize() && isSameFile(path, source->getName()))
         return tr("Cannot record to \"%1\": it is the file that is being read. Choose another "
                   "name.")
             .arg(path);
@@ -257,6 +288,11 @@ QString Session::startRecording(const QString &path)
 QString Session::getSourceName() const
 {
     return source ? source->getName() : QString();
+}
+
+std::optional<qint64> Session::getBacklogBytes() const
+{
+    return source ? source->getWaitingBytes() : std::nullopt;
 }
 
 std::optional<quint64> Session::getDroppedCount() const

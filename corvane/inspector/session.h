@@ -64,6 +64,8 @@ public:
 
     /** The source's name for people; empty without a source. */
     QString getSourceName() const;
+    /** Bytes that have come and are not read yet, where the source tells. */
+    std::optional<qint64> getBacklogBytes() const;
     /** Datagrams that the system dropped, where it tells. */
     std::optional<quint64> getDroppedCount() const;
 
@@ -82,6 +84,7 @@ Q_SIGNALS:
 
 private:
     void setFormat(std::unique_ptr<StreamFormat> newFormat);
+    QStringList loadAll(const Options &options);
     QString chooseFormat(const Options &options);
     QString chooseFraming(const Options &options);
     void needAllTypes();

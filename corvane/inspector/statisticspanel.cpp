@@ -39,6 +39,7 @@ StatisticsPanel::StatisticsPanel(MessageStatisticsCoordinator &coordinator, QWid
     hint->setMargin(fontMetrics().height() / 2);
     tree->setAccessibleName(tr("Reception statistics"));
     tree->setUniformRowHeights(true);
+    tree->setMinimumHeight(fontMetrics().height() * 3);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(hint);

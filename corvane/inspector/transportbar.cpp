@@ -1,6 +1,7 @@
 #include "transportbar.h"
 
 #include "fileindex.h"
+#include "icons.h"
 #include "playback.h"
 
 #include <QAction>
@@ -41,11 +42,6 @@ public:
         return QProxyStyle::styleHint(hint, option, widget, result);
     }
 };
-
-QIcon iconOf(const QWidget &widget, const char *name, QStyle::StandardPixmap fallback)
-{
-    return QIcon::fromTheme(QLatin1String(name), widget.style()->standardIcon(fallback));
-}
 
 /** "1:02.5", or with hours "1:01:02.5". */
 QString durationText(qint64 durationUs)
@@ -93,8 +89,8 @@ void TransportBar::createActions()
 {
     playAction = addAction(tr("Play"), this, &TransportBar::togglePlaying);
     playAction->setShortcut(tr("Ctrl+Space"));
-    stepAction = addAction(iconOf(*this, "media-skip-forward", QStyle::SP_MediaSkipForward),
-                           tr("Next Message"), this, &TransportBar::stepOnce);
+    stepAction = addAction(makeIcon(QStringLiteral("media-skip-forward")), tr("Next Message"), this,
+                           &TransportBar::stepOnce);
     stepAction->setShortcut(tr("Ctrl+."));
     stepAction->setToolTip(tr("Read on to the next message (Right, %1)")
                                .arg(stepAction->shortcut().toString(QKeySequence::NativeText)));
@@ -170,6 +166,12 @@ void TransportBar::setPlayback(Playback *newPlayback)
     showState();
     setVisible(playback != nullptr);
     toggleViewAction()->setVisible(playback != nullptr);
+}
+
+void TransportBar::setUtc(bool newUtc)
+{
+    utc = newUtc;
+    showPlace();
 }
 
 void TransportBar::connectPlayback()
@@ -264,8 +266,8 @@ void TransportBar::showState()
 {
     const bool isPlaying = playback && playback->isPlaying();
     playAction->setText(isPlaying ? tr("Pause") : tr("Play"));
-    playAction->setIcon(isPlaying ? iconOf(*this, "media-playback-pause", QStyle::SP_MediaPause)
-                                  : iconOf(*this, "media-playback-start", QStyle::SP_MediaPlay));
+    playAction->setIcon(makeIcon(isPlaying ? QStringLiteral("media-playback-pause")
+                                           : QStringLiteral("media-playback-start")));
     playAction->setToolTip(
         tr("%1 (Space, %2)")
             .arg(playAction->text(), playAction->shortcut().toString(QKeySequence::NativeText)));
@@ -298,7 +300,8 @@ void TransportBar::showPlace()
     placeLabel->setText(getPlaceText());
     const std::optional<qint64> timeUs = playback->getTimeUs();
     placeLabel->setToolTip(
-        timeUs ? QDateTime::fromMSecsSinceEpoch(*timeUs / 1000, Qt::UTC).toString(Qt::ISODateWithMs)
+        timeUs ? QDateTime::fromMSecsSinceEpoch(*timeUs / 1000, utc ? Qt::UTC : Qt::LocalTime)
+                     .toString(Qt::ISODateWithMs)
                : QString());
 }
 

@@ -34,6 +34,8 @@ public:
 
     /** \a newPlayback: not owned; null hides the bar. It may be deleted at any time. */
     void setPlayback(Playback *newPlayback);
+    /** Shows times in UTC, else in the time zone of this machine. */
+    void setUtc(bool newUtc);
 
     /** For a menu. */
     QAction *getPlayAction() const { return playAction; }
@@ -74,6 +76,7 @@ private:
     QProgressBar *progressBar = nullptr; ///< Owned as a child.
     QAction *progressAction = nullptr; ///< Shows and hides the progress bar.
     QAction *cancelAction = nullptr; ///< Owned as a child.
+    bool utc = false;
     QTimer refreshTimer; ///< Runs while it plays.
 };
 

@@ -38,6 +38,7 @@ TreeHistory::TreeHistory(MessageTreeWidget &tree, const LatestMessages &latest)
         connect(other, &QAction::triggered, this, &TreeHistory::followColumns);
     connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
             [this] { lines.clear(); });
+    connect(&latest, &LatestMessages::senderChanged, this, [this] { lines.clear(); });
     connect(&timer, &QTimer::timeout, this, &TreeHistory::takeValues);
 }
 

@@ -1,6 +1,7 @@
 #include "watchpanel.h"
 
 #include "catalogue.h"
+#include "corvane.h"
 #include "descriptions.h"
 #include "fieldvaluelabel.h"
 #include "latestmessages.h"
@@ -8,9 +9,11 @@
 #include "pathexpressioncombobox.h"
 #include "pathexpressionlineedit.h"
 #include "pathexpressionlistwidget.h"
+#include "steadytreewidget.h"
 
 #include <QAction>
 #include <QCompleter>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -58,14 +61,19 @@ WatchPanel::WatchPanel(const LatestMessages &latest, QWidget *parent)
     notice->setTextFormat(Qt::PlainText);
     notice->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(fontMetrics().height() / 4);
     layout->addWidget(splitter, 1);
     layout->addWidget(createButtons());
     layout->addWidget(notice);
     say(tr("Type the path of a field and press Enter, or pick one and press Watch."));
 
     connect(&latest, &MessageSource::newMessage, this, &WatchPanel::processMessage);
+    connect(&latest, &LatestMessages::senderChanged, this, &WatchPanel::forgetValues);
     connect(&expression, &PathExpression::partsChanged, this, &WatchPanel::followParts);
     connect(Catalogue::getInstance(), &Catalogue::changed, this, &WatchPanel::resolve);
+    connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
+            &WatchPanel::showAllLatest);
     connect(&stateTimer, &QTimer::timeout, this, &WatchPanel::refreshStates);
     stateTimer.start(stateIntervalMs);
 }
@@ -93,12 +101,14 @@ QWidget *WatchPanel::createChooser()
     auto *fields
         = new PathExpressionListWidget(&expression, PathExpression::FieldPart, &fieldOptions);
     fields->setAccessibleName(tr("Field"));
+    fields->setMinimumHeight(fontMetrics().height() * 2);
 
     auto *combos = new QHBoxLayout;
     combos->addWidget(formats);
     combos->addWidget(messages, 1);
     auto *layout = new QVBoxLayout(chooser);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(fontMetrics().height() / 4);
     layout->addWidget(edit);
     layout->addLayout(combos);
     layout->addWidget(fields, 1);
@@ -133,11 +143,15 @@ void WatchPanel::createTable()
 {
     table = new QTableWidget(0, ColumnCount, this);
     table->setAccessibleName(tr("Watched fields"));
+    table->setMinimumHeight(fontMetrics().height() * 3);
     table->setHorizontalHeaderLabels({tr("Path"), tr("Value"), tr("Unit"), tr("State")});
+    table->setTabKeyNavigation(false); // Tab leads on to the next control
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->verticalHeader()->hide();
+    table->verticalHeader()->setMinimumSectionSize(0);
+    fitRowHeight();
     table->horizontalHeader()->setStretchLastSection(true);
     table->setColumnWidth(PathColumn, fontMetrics().averageCharWidth() * 36);
     table->setColumnWidth(ValueColumn, fontMetrics().averageCharWidth() * 20);
@@ -147,6 +161,18 @@ void WatchPanel::createTable()
     connect(remove, &QAction::triggered, this, &WatchPanel::removeCurrent);
     table->addAction(remove);
     table->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void WatchPanel::fitRowHeight()
+{
+    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+}
+
+void WatchPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitRowHeight();
 }
 
 void WatchPanel::completeOptions()
@@ -222,11 +248,40 @@ void WatchPanel::createLabel(Row &row)
     row.label = new FieldValueLabel(row.field);
     row.label->setTextFormat(Qt::PlainText);
     row.label->setTimeOut(timeOutMs);
+    showLatest(row);
+}
+
+void WatchPanel::showLatest(const Row &row)
+{
     if (row.field == nullptr || !row.sinceValue.isValid() || row.sinceValue.hasExpired(timeOutMs))
         return;
     for (const MessageInfo *type : row.field->getMessageInfos())
         if (const Message *message = latest.get(type))
-            row.label->processMessage(message);
+            showValue(message, *row.label);
+}
+
+void WatchPanel::showValue(const Message *message, FieldValueLabel &label)
+{
+    label.processMessage(message);
+    // A text of any length may come, which would be laid out as a whole.
+    if (const QString text = SteadyTreeWidget::shortened(label.text()); text != label.text())
+        label.setText(text);
+}
+
+void WatchPanel::showAllLatest()
+{
+    for (const Row &row : rows)
+        showLatest(row);
+}
+
+void WatchPanel::forgetValues()
+{
+    for (Row &row : rows) {
+        row.sinceValue.invalidate();
+        row.absent = false;
+        row.label->clearValue();
+    }
+    refreshStates();
 }
 
 void WatchPanel::resolve()
@@ -279,7 +334,7 @@ void WatchPanel::processMessage(const Message *message)
     for (Row &row : rows) {
         if (row.field == nullptr || !row.field->occursIn(message->getInfo()))
             continue;
-        row.label->processMessage(message);
+        showValue(message, *row.label);
         row.absent = row.field->getNumberOfValues(message) == 0;
         row.sinceValue.start();
     }

@@ -50,6 +50,9 @@ public:
     /** Fields that are not known are kept, and watched once their definitions are loaded. */
     void restoreSettings(QSettings &settings);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     enum Column {
         PathColumn,
@@ -72,11 +75,16 @@ private:
     QWidget *createButtons();
     void createTable();
     void add(const QString &path);
+    void fitRowHeight();
     void fillTable();
     void resolve();
     void completeOptions();
     void followParts();
     void createLabel(Row &row);
+    static void showValue(const Message *message, FieldValueLabel &label);
+    void showLatest(const Row &row);
+    void showAllLatest();
+    void forgetValues();
     void processMessage(const Message *message);
     void refreshStates();
     static QString getStateText(const Row &row);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "options.h"
+#include "plaintooltips.h"
 
 #include <QObject>
 
@@ -12,6 +13,7 @@ class QWidget;
 namespace corvane {
 
 class MainWindow;
+class NoticeArea;
 class OpenPanel;
 class Session;
 struct SourceChoice;
@@ -30,6 +32,10 @@ public:
     QStringList open(const Options &options);
     /** Shows the panel in which people choose a source. */
     void showOpenPanel();
+    /** Asks for the definitions of the source of \a options, which names none. */
+    void askForDefinitions(const Options &options);
+    /** Where the window that people see says things. */
+    NoticeArea &getNotices() const;
     /** The window that people see: that of the source, else the panel. */
     QWidget *getWindow() const;
 
@@ -38,6 +44,7 @@ private:
     void takeFiles(const QStringList &files);
     void createWindow(const Options &options);
 
+    PlainToolTips plainToolTips;
     Options options;
     QSettings &settings;
     std::unique_ptr<OpenPanel> openPanel;

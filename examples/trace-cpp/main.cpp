@@ -22,6 +22,7 @@ void noteError(int level)
 void dumpRing()
 {
     std::puts("The latest lines, newest first:");
+    // [dump]
     char line[256];
     uint64_t cursor = 0;
     // The ring has no lock of its own.
@@ -30,8 +31,10 @@ void dumpRing()
          ++number)
         std::fputs(line, stdout);
     dbg_unlock();
+    // [dump]
 }
 
+// [trace]
 void divide(int dividend, int divisor)
 {
     if (divisor == 0) {
@@ -42,13 +45,17 @@ void divide(int dividend, int divisor)
               dividend / divisor);
 }
 
+// [trace]
+
 } // namespace
 
 int main()
 {
+    // [ring]
     static char area[512];
     Tav::DbgDump_setTraceBuffer(area, sizeof area);
     dbg_TraceSetListener(noteError);
+    // [ring]
 
     for (int divisor = 5; divisor >= 0; --divisor)
         divide(60, divisor);

@@ -8,6 +8,8 @@
 #include "messagestatisticsdata.h"
 #include "streamformat.h"
 
+#include <utility>
+
 namespace corvane {
 
 static_assert(Rhythm::noTime == DecodedMessage::unknownTime);
@@ -30,7 +32,7 @@ Reception::Reception(const FormatInfo *format,
     : MessageSource(parent)
     , format(format)
     , needs(&(needs != nullptr ? needs : MessageNeedManager::getDefault())->getCounts())
-    , senders(senderNamer)
+    , senders(std::move(senderNamer))
 {
     if (hasChecksum)
         totals.crcErrors = 0;

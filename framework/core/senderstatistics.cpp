@@ -44,7 +44,7 @@ void SenderTable::forgetSequences()
 }
 
 SenderTable::SenderTable(Namer namer, quint32 lastNumber)
-    : namer(namer)
+    : namer(std::move(namer))
     , lastNumber(lastNumber)
 {
 }
@@ -57,6 +57,7 @@ SenderStatistics &SenderTable::get(quint32 senderId)
     if (entry == nullptr) {
         all.push_back(std::make_unique<SenderStatistics>(lastNumber));
         entry = all.back().get();
+        entry->number = senderId;
         entry->id = namer(senderId);
     }
     latestId = senderId;

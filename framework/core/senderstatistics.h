@@ -6,6 +6,7 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -27,6 +28,7 @@ struct CORVANEFRAMEWORK_EXPORT SenderStatistics
     /** Counts a damaged frame that claims to come from this sender and to be of that type. */
     void countCrcError(const MessageInfo *claimedType);
 
+    quint32 number = 0; ///< As messages name their sender.
     QString id; ///< As the format names its senders, such as "1/100".
     quint64 frames = 0;
     quint64 sequenceGaps = 0; ///< Places at which numbers are missing.
@@ -41,7 +43,7 @@ struct CORVANEFRAMEWORK_EXPORT SenderStatistics
 class CORVANEFRAMEWORK_EXPORT SenderTable
 {
 public:
-    using Namer = QString (*)(quint32 senderId);
+    using Namer = std::function<QString(quint32 senderId)>;
 
     /** \a namer gives the id that people read; \a lastNumber: as for SenderStatistics. */
     explicit SenderTable(Namer namer, quint32 lastNumber = 0xFF);

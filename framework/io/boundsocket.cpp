@@ -16,10 +16,10 @@ namespace corvane {
 
 namespace {
 
-QString tr(const char *text)
+struct BoundSocketTexts
 {
-    return QCoreApplication::translate("corvane::BoundSocket", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(corvane::BoundSocket)
+};
 
 /** What the system's calls want to know of an address. */
 struct SystemAddress
@@ -125,16 +125,18 @@ QString getAddressName(const QString &scheme, const QString &address, quint16 po
 
 QString describeBindError(const QString &name, int error)
 {
-    const QString cannotBind = tr("Cannot receive at %1: ").arg(name);
+    const QString cannotBind = BoundSocketTexts::tr("Cannot receive at %1: ").arg(name);
     switch (error) {
     case EADDRINUSE:
         return cannotBind
-               + tr("another program already uses this port. End it, or choose another port.");
+               + BoundSocketTexts::tr(
+                   "another program already uses this port. End it, or choose another port.");
     case EACCES:
-        return cannotBind + tr("no permission. Choose a port above 1023.");
+        return cannotBind + BoundSocketTexts::tr("no permission. Choose a port above 1023.");
     case EADDRNOTAVAIL:
         return cannotBind
-               + tr("this machine does not have this address. Leave it empty to mean all.");
+               + BoundSocketTexts::tr(
+                   "this machine does not have this address. Leave it empty to mean all.");
     default:
         return cannotBind + getSystemErrorText(error) + QLatin1Char('.');
     }

@@ -64,6 +64,11 @@ bool ByteSource::isLive() const
     return true;
 }
 
+std::optional<qint64> ByteSource::getWaitingBytes() const
+{
+    return std::nullopt;
+}
+
 std::optional<quint64> ByteSource::getDroppedCount() const
 {
     return std::nullopt;

@@ -77,6 +77,9 @@ public:
     virtual bool isLive() const;
     /** How many datagrams the system says that it dropped; nothing where it does not tell. */
     virtual std::optional<quint64> getDroppedCount() const;
+    /** How many bytes have come and wait to be read; nothing for regular files and where it is not
+     * told. */
+    virtual std::optional<qint64> getWaitingBytes() const;
     /** The present size in bytes of a regular file; nothing for other sources. */
     virtual std::optional<qint64> getSize() const;
     /** The offset in bytes in a regular file of what is read next; nothing for other sources. */

@@ -3,6 +3,7 @@
 #include <QSocketNotifier>
 
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -29,6 +30,14 @@ void DescriptorReader::open(FileDescriptor newDescriptor, bool canWait)
     notifier = new QSocketNotifier(QSocketNotifier::Read, this);
     notifier->setSocket(descriptor.get());
     connect(notifier, &QSocketNotifier::activated, this, &DescriptorReader::handleActivated);
+}
+
+std::optional<qint64> DescriptorReader::getWaitingBytes() const
+{
+    int count = 0;
+    if (!isOpen() || ::ioctl(descriptor.get(), FIONREAD, &count) != 0)
+        return std::nullopt;
+    return count;
 }
 
 void DescriptorReader::close()

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <optional>
+
 class QSocketNotifier;
 
 namespace corvane {
@@ -39,6 +41,8 @@ public:
 
     int getDescriptor() const { return descriptor.get(); }
 
+    /** How many bytes a read() would find; nothing where the system does not tell. */
+    std::optional<qint64> getWaitingBytes() const;
     /** The number of bytes read, or one of Result. */
     qint64 read(char *data, qint64 maximum);
     /** Asks for readyRead(), as a read() that gives NothingNow does. */

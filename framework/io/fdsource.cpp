@@ -40,6 +40,11 @@ QString FdSource::getName() const
     return name;
 }
 
+std::optional<qint64> FdSource::getWaitingBytes() const
+{
+    return isLive() ? reader.getWaitingBytes() : std::nullopt;
+}
+
 bool FdSource::isLive() const
 {
     return !regularFile;

@@ -27,6 +27,7 @@ public:
     void setFollowing(bool newFollowing) { following = newFollowing; }
 
     QString getName() const override;
+    std::optional<qint64> getWaitingBytes() const override;
     bool isLive() const override;
     std::optional<qint64> getSize() const override;
     std::optional<qint64> getPosition() const override;

@@ -75,6 +75,11 @@ QString ProcessSource::getName() const
     return QStringLiteral("exec:") + command;
 }
 
+std::optional<qint64> ProcessSource::getWaitingBytes() const
+{
+    return reader.getWaitingBytes();
+}
+
 void ProcessSource::openDevice()
 {
     int ends[2] = {-1, -1};

@@ -30,6 +30,7 @@ public:
     qint64 getProcessId() const { return processId; }
 
     QString getName() const override;
+    std::optional<qint64> getWaitingBytes() const override;
 
 protected:
     void openDevice() override;

@@ -31,6 +31,11 @@ QString SerialSource::getName() const
     return QStringLiteral("serial:%1?baud=%2").arg(device, QString::number(baud));
 }
 
+std::optional<qint64> SerialSource::getWaitingBytes() const
+{
+    return serialPort ? std::optional(serialPort->bytesAvailable() + rest.size()) : std::nullopt;
+}
+
 void SerialSource::openDevice()
 {
     serialPort = new QSerialPort(device, this);

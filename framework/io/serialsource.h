@@ -19,6 +19,7 @@ public:
     ~SerialSource() override;
 
     QString getName() const override;
+    std::optional<qint64> getWaitingBytes() const override;
 
 protected:
     void openDevice() override;

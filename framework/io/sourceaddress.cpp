@@ -18,11 +18,6 @@ namespace {
 
 using Kind = SourceAddress::Kind;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("corvane::SourceAddress", text);
-}
-
 struct Scheme
 {
     const char *name;
@@ -42,6 +37,8 @@ constexpr Scheme schemes[] = {
 /** Reads one text; the first thing that is wrong with it ends the reading. */
 class Reader
 {
+    Q_DECLARE_TR_FUNCTIONS(corvane::SourceAddress)
+
 public:
     explicit Reader(const QString &text)
         : text(text)

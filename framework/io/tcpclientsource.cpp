@@ -5,6 +5,8 @@
 #include <QNetworkProxy>
 #include <QTcpSocket>
 
+#include <sys/ioctl.h>
+
 #include <utility>
 
 namespace corvane {
@@ -30,6 +32,15 @@ TcpClientSource::~TcpClientSource()
 QString TcpClientSource::getName() const
 {
     return getAddressName(QStringLiteral("tcp"), host, port);
+}
+
+std::optional<qint64> TcpClientSource::getWaitingBytes() const
+{
+    if (!connected || !socket)
+        return std::nullopt;
+    int inSystem = 0;
+    ::ioctl(static_cast<int>(socket->socketDescriptor()), FIONREAD, &inSystem);
+    return socket->bytesAvailable() + inSystem;
 }
 
 void TcpClientSource::openDevice()

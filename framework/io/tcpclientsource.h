@@ -17,6 +17,7 @@ public:
     ~TcpClientSource() override;
 
     QString getName() const override;
+    std::optional<qint64> getWaitingBytes() const override;
 
 protected:
     void openDevice() override;

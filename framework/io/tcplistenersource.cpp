@@ -64,6 +64,11 @@ QString TcpListenerSource::getName() const
     return getAddressName(QStringLiteral("tcp-listen"), address, port);
 }
 
+std::optional<qint64> TcpListenerSource::getWaitingBytes() const
+{
+    return peer.getWaitingBytes();
+}
+
 void TcpListenerSource::openDevice()
 {
     boundName.clear();

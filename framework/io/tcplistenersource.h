@@ -21,6 +21,7 @@ public:
     ~TcpListenerSource() override;
 
     QString getName() const override;
+    std::optional<qint64> getWaitingBytes() const override;
 
 protected:
     void openDevice() override;

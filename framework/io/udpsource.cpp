@@ -25,15 +25,39 @@ namespace {
 constexpr int defaultReceiveBufferBytes = 4 * 1024 * 1024;
 constexpr qint64 maximumDatagramBytes = 65'536;
 
+#ifdef SO_MEMINFO
+using MemoryFigures = std::array<quint32, SK_MEMINFO_VARS>;
+
+/** What the system tells of the socket's buffers, by its constants. */
+std::optional<MemoryFigures> readMemoryFigures(int descriptor)
+{
+    MemoryFigures values{};
+    socklen_t size = sizeof values;
+    if (::getsockopt(descriptor, SOL_SOCKET, SO_MEMINFO, values.data(), &size) == 0
+        && size > SK_MEMINFO_DROPS * sizeof(quint32))
+        return values;
+    return std::nullopt;
+}
+#endif
+
+/** How full the buffer is, by what the system keeps beside each datagram as well. */
+std::optional<qint64> readWaitingBytes(int descriptor)
+{
+#ifdef SO_MEMINFO
+    if (const auto values = readMemoryFigures(descriptor))
+        return (*values)[SK_MEMINFO_RMEM_ALLOC];
+#else
+    Q_UNUSED(descriptor)
+#endif
+    return std::nullopt;
+}
+
 std::optional<quint64> readDroppedCount(int descriptor)
 {
 #ifdef SO_MEMINFO
     // The counter that comes along with datagrams tells of a loss only when the next one is read.
-    std::array<quint32, SK_MEMINFO_VARS> values{};
-    socklen_t size = sizeof values;
-    if (::getsockopt(descriptor, SOL_SOCKET, SO_MEMINFO, values.data(), &size) == 0
-        && size > SK_MEMINFO_DROPS * sizeof(quint32))
-        return values[SK_MEMINFO_DROPS];
+    if (const auto values = readMemoryFigures(descriptor))
+        return (*values)[SK_MEMINFO_DROPS];
 #else
     Q_UNUSED(descriptor)
 #endif
@@ -75,6 +99,11 @@ QString UdpSource::getName() const
     if (!boundName.isEmpty())
         return boundName;
     return getAddressName(QStringLiteral("udp"), address, port);
+}
+
+std::optional<qint64> UdpSource::getWaitingBytes() const
+{
+    return reader.isOpen() ? readWaitingBytes(reader.getDescriptor()) : std::nullopt;
 }
 
 std::optional<quint64> UdpSource::getDroppedCount() const

@@ -29,6 +29,7 @@ public:
     void setReceiveBufferSize(int sizeBytes) { receiveBufferSizeBytes = sizeBytes; }
 
     QString getName() const override;
+    std::optional<qint64> getWaitingBytes() const override;
     /** Up to date also while nothing is read; kept after close(), begun anew by open(). */
     std::optional<quint64> getDroppedCount() const override;
 

@@ -14,7 +14,8 @@
  * takes longer the more rows there are. Most changes of a text cannot alter the height of its row:
  * both texts are one line of characters that are as high as a Latin letter. For these, made through
  * setItemText(), this class only asks for one repaint of the viewport per round of events. All
- * other changes go the way that QTreeWidget takes, so rows look and behave the same.
+ * other changes go the way that QTreeWidget takes, so rows look and behave the same. Only texts
+ * that would take seconds to be measured, or fill the view, are shown shortened().
  *
  * The operations work on any item, in a tree of another kind or in none as well.
  */
@@ -37,6 +38,10 @@ public:
      * the doomed gives way to the last row that stays, or to \a parent.
      */
     static void removeChildren(QTreeWidgetItem *parent, const QList<QTreeWidgetItem *> &doomed);
+
+    /** \a text as far as it is shown: at most 1,000 characters in 4 lines; "…" stands for the rest.
+     */
+    static QString shortened(const QString &text);
 
     void dataChanged(const QModelIndex &topLeft,
                      const QModelIndex &bottomRight,
@@ -67,5 +72,5 @@ private:
     std::unique_ptr<PlainCharacters> plainCharacters;
     PlainChange plainChange;
     bool repaintRequested = false; ///< Since the last painting.
-    const QAbstractItemDelegate *ownDelegate; ///< Owned by the base. The one that it starts with.
+    QAbstractItemDelegate *ownDelegate; ///< Owned as a child. The one that it starts with.
 };

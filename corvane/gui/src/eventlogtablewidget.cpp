@@ -1,6 +1,7 @@
 #include "eventlogtablewidget.h"
 
 #include "memleaktracer.h"
+#include "translations.h"
 
 namespace {
 
@@ -15,6 +16,7 @@ enum Column {
 EventLogTableWidget::EventLogTableWidget(EventLog *eventLog, QWidget *parent)
     : QTableWidget(parent)
 {
+    corvane::installTranslations();
     MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("EventLogTableWidget"));
     const QStringList labels{tr("Time"), tr("Message")};
     setColumnCount(ColumnCount);

@@ -5,6 +5,7 @@
 #include "message.h"
 #include "messageneed.h"
 #include "messagesource.h"
+#include "translations.h"
 
 #include <QTimer>
 
@@ -13,6 +14,7 @@ FieldValueLabel::FieldValueLabel(const FieldInfo *fieldInfo,
                                  bool showInterpretedString,
                                  int timeOut)
 {
+    corvane::installTranslations();
     MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("FieldValueLabel"));
     this->showInterpretedString = showInterpretedString;
     messageNeed = new MessageNeed(nullptr);

@@ -5,6 +5,7 @@
 #include "messagestatistics.h"
 #include "messagestatisticscoordinator.h"
 #include "messagestatisticstreewidgetitem.h"
+#include "translations.h"
 
 #include <QHeaderView>
 #include <QSettings>
@@ -43,6 +44,7 @@ MessageStatisticsWidget::MessageStatisticsWidget(MessageStatisticsCoordinator *c
     : SteadyTreeWidget(parent)
     , coordinator(coordinator)
 {
+    corvane::installTranslations();
     MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("MessageStatisticsWidget"));
     setSortingEnabled(true);
     setIndentation(10);

@@ -5,6 +5,7 @@
 #include "memleaktracer.h"
 #include "message.h"
 #include "messageinfo.h"
+#include "translations.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -12,6 +13,7 @@
 MessageWidget::MessageWidget(QWidget *parent, const MessageInfo *messageInfo)
     : QWidget(parent)
 {
+    corvane::installTranslations();
     MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("MessageWidget"));
     setMessageInfo(messageInfo);
 }

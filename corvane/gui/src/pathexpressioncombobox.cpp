@@ -1,6 +1,7 @@
 #include "pathexpressioncombobox.h"
 
 #include "memleaktracer.h"
+#include "translations.h"
 
 PathExpressionComboBox::PathExpressionComboBox(PathExpression *pathExpression,
                                                PathExpression::Parts parts,
@@ -9,6 +10,7 @@ PathExpressionComboBox::PathExpressionComboBox(PathExpression *pathExpression,
     : QComboBox(parent)
     , parts(parts)
 {
+    corvane::installTranslations();
     MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("PathExpressionComboBox"));
     updateContents();
     setPathExpression(pathExpression);

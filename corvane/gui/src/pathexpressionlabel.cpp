@@ -1,12 +1,14 @@
 #include "pathexpressionlabel.h"
 
 #include "memleaktracer.h"
+#include "translations.h"
 
 PathExpressionLabel::PathExpressionLabel(PathExpression *pathExpression,
                                          PathExpression::Parts parts,
                                          QWidget *parent)
     : QLabel(parent)
 {
+    corvane::installTranslations();
     MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("PathExpressionLabel"));
     setPathExpression(pathExpression);
     setParts(parts);

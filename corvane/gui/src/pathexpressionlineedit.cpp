@@ -1,12 +1,14 @@
 #include "pathexpressionlineedit.h"
 
 #include "memleaktracer.h"
+#include "translations.h"
 
 PathExpressionLineEdit::PathExpressionLineEdit(PathExpression *pathExpression,
                                                PathExpression::Parts parts,
                                                QWidget *parent)
     : QLineEdit(parent)
 {
+    corvane::installTranslations();
     MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("PathExpressionLineEdit"));
     setPathExpression(pathExpression);
     setParts(parts);

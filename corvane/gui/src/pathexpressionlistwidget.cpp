@@ -1,6 +1,7 @@
 #include "pathexpressionlistwidget.h"
 
 #include "memleaktracer.h"
+#include "translations.h"
 
 PathExpressionListWidget::PathExpressionListWidget(PathExpression *pathExpression,
                                                    PathExpression::Parts parts,
@@ -9,6 +10,7 @@ PathExpressionListWidget::PathExpressionListWidget(PathExpression *pathExpressio
     : QListWidget(parent)
     , parts(parts)
 {
+    corvane::installTranslations();
     MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("PathExpressionListWidget"));
     updateContents();
     setPathExpression(pathExpression);

@@ -127,6 +127,8 @@ PlotPanel::PlotPanel(MessageSource &messages, QWidget *parent)
     auto *splitter = new QSplitter(this);
     splitter->addWidget(view);
     splitter->addWidget(legend);
+    for (QWidget *part : std::initializer_list<QWidget *>{view, legend})
+        part->setMinimumHeight(fontMetrics().height() * 3);
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 2);
     splitter->setSizes({3000, 2000}); // which it scales to its own size
@@ -312,12 +314,30 @@ void PlotPanel::setPaused(bool pause)
     refreshTexts();
 }
 
+void PlotPanel::setSender(std::optional<quint32> newSender)
+{
+    sender = newSender;
+    for (const auto &one : series)
+        one->forgetValues();
+    view->requestRefresh();
+    refreshTexts();
+}
+
+void PlotPanel::setUtc(bool utc)
+{
+    view->setUtc(utc);
+    refreshTexts();
+}
+
 void PlotPanel::processMessage(const Message *message)
 {
     const quint32 slot = message->getInfo()->getData()->slot;
     if (slot >= seriesBySlot.size() || seriesBySlot[slot].empty())
         return;
-    qint64 timeUs = static_cast<const DecodedMessage *>(message)->getTimeUs();
+    const auto *decoded = static_cast<const DecodedMessage *>(message);
+    if (sender && decoded->getSenderId() != *sender)
+        return;
+    qint64 timeUs = decoded->getTimeUs();
     if (timeUs == DecodedMessage::unknownTime)
         timeUs = nowUs();
     for (PlotSeries *one : seriesBySlot[slot])

@@ -39,6 +39,8 @@ public:
 
     void addSeries(const QString &path) override;
     void setPaused(bool paused) override;
+    void setSender(std::optional<quint32> newSender) override;
+    void setUtc(bool utc) override;
     void saveSettings(QSettings &settings) const override;
     /** Fields that are not known are kept, and plotted once their definitions are loaded. */
     void restoreSettings(QSettings &settings) override;
@@ -71,6 +73,7 @@ private:
     PlotSeriesList series;
     std::vector<std::vector<PlotSeries *>> seriesBySlot; ///< By the slots of message types.
     MessageNeed need{nullptr};
+    std::optional<quint32> sender; ///< Whose messages count; those of all for nothing.
     bool paused = false;
     bool axisPerUnit = true;
     QLineEdit *edit = nullptr; ///< Owned as a child.

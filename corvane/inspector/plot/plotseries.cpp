@@ -44,6 +44,13 @@ void PlotSeries::process(const Message *message, qint64 timeUs)
     store.append(timeUs, lastValue.toDouble().value_or(Sample::gap));
 }
 
+void PlotSeries::forgetValues()
+{
+    store.clear();
+    lastValue = FieldValue();
+    received = false;
+}
+
 QString PlotSeries::getName() const
 {
     return place ? place->getName() : path;

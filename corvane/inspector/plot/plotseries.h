@@ -60,6 +60,8 @@ public:
 
     /** Looks the path up again; to be called when descriptions came or went. */
     void resolve();
+    /** As if nothing had come. */
+    void forgetValues();
     /** Takes the value of \a message, which is one of getType(). */
     void process(const Message *message, qint64 timeUs);
 

@@ -392,6 +392,13 @@ void PlotView::zoomValues(double factor)
     requestRefresh();
 }
 
+void PlotView::setUtc(bool newUtc)
+{
+    utc = newUtc;
+    timeTicker->setDateTimeSpec(utc ? Qt::UTC : Qt::LocalTime);
+    requestRefresh();
+}
+
 void PlotView::fitValues()
 {
     fitting = true;
@@ -425,7 +432,8 @@ QString PlotView::getStateText() const
     if (!fitting)
         text += tr("; value axes as set by hand");
     if (cursorUs) {
-        const auto time = QDateTime::fromMSecsSinceEpoch(*cursorUs / 1000);
+        const auto time
+            = QDateTime::fromMSecsSinceEpoch(*cursorUs / 1000, utc ? Qt::UTC : Qt::LocalTime);
         text += tr("; cursor at %1").arg(time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")));
     }
     return text;
@@ -486,6 +494,19 @@ void PlotView::changeEvent(QEvent *event)
         return;
     applyPalette();
     requestRefresh();
+}
+
+bool PlotView::event(QEvent *event)
+{
+    // The keys of the value axes are those of the window's zoom as well.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *press = static_cast<QKeyEvent *>(event);
+        const int key = press->key();
+        if (press->modifiers().testFlag(Qt::ControlModifier)
+            && (key == Qt::Key_Plus || key == Qt::Key_Equal || key == Qt::Key_Minus))
+            event->accept();
+    }
+    return QCustomPlot::event(event);
 }
 
 void PlotView::showEvent(QShowEvent *event)

@@ -40,6 +40,8 @@ public:
     void refresh();
     /** While paused the window does not follow, and is told to draw only by people. */
     void setPaused(bool pause);
+    /** Times of the axis and of the cursor; else in the time zone of this machine. */
+    void setUtc(bool newUtc);
     /** Gives each unit a value axis of its own; else there is one on each side. */
     void setAxisPerUnit(bool perUnit);
 
@@ -81,6 +83,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -123,6 +126,7 @@ private:
     const PlotSeriesList &series;
     TimeWindow window;
     bool paused = false;
+    bool utc = false;
     bool axisPerUnit = true;
     bool fitting = true;
     std::vector<ValueAxis> axes;

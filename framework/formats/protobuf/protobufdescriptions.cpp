@@ -65,19 +65,21 @@ FieldType fieldTypeOf(const FieldDescriptor *field)
 
 } // namespace
 
-ProtobufDescriber::ProtobufDescriber(const ProtobufSchema &schema, const FormatInfo *format)
+ProtobufDescriber::ProtobufDescriber(const ProtobufSchema &schema,
+                                     const FormatInfo *format,
+                                     const std::string &package)
     : schema(schema)
     , format(format)
+    , package(package)
 {
+    if (!package.empty())
+        format->getData()->package = QString::fromStdString(package + '.');
 }
 
 ProtobufDescriber::~ProtobufDescriber() = default;
 
 const MessageInfo *ProtobufDescriber::describe(const Descriptor *root)
 {
-    package = root->file()->package();
-    if (!package.empty())
-        format->getData()->package = QString::fromStdString(package + '.');
     const Key key{root, 0, false};
     findCircles(root);
     for (const Descriptor *content : getAnyContents({nullptr, 0, false}))

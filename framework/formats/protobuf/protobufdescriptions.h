@@ -35,7 +35,10 @@ public:
     using Descriptor = google::protobuf::Descriptor;
     using FieldDescriptor = google::protobuf::FieldDescriptor;
 
-    ProtobufDescriber(const ProtobufSchema &schema, const FormatInfo *format);
+    /** Names are without \a package, "a.b" or empty. */
+    ProtobufDescriber(const ProtobufSchema &schema,
+                      const FormatInfo *format,
+                      const std::string &package);
     ~ProtobufDescriber();
 
     /** Adds all to the format; \a root becomes a main type. Null where it is refused. */
@@ -73,7 +76,7 @@ private:
 
     const ProtobufSchema &schema;
     const FormatInfo *format; ///< Not owned.
-    std::string package; ///< Of the root type; left out of the names.
+    std::string package;
     int maximumLevel = 0;
 
     // Circles are found by Tarjan's algorithm: types with the same number hold each other.

@@ -79,7 +79,8 @@ StreamFormat::LoadResult ProtobufFormat::loadFiles(const QStringList &files)
     const Descriptor *found = findRoot(*loaded.schema, &problem);
     if (found == nullptr)
         return {{errorOf(file, problem)}, loaded.warnings};
-    const MessageInfo *described = ProtobufDescriber(*loaded.schema, &info).describe(found);
+    const MessageInfo *described
+        = ProtobufDescriber(*loaded.schema, &info, found->file()->package()).describe(found);
     if (described == nullptr) {
         info.getData()->messagesByName.clear();
         info.getData()->messages.clear();

@@ -105,8 +105,24 @@ ProtobufSchema::LoadResult ProtobufSchema::load(const QStringList &files,
         if (file.endsWith(QLatin1String(".proto")))
             schema->addProtoFile(file, collector);
         else
-            schema->addDescriptorSet(file, collector);
+            schema->addDescriptorSetFile(file, collector);
     }
+    return finish(std::move(schema), collector);
+}
+
+ProtobufSchema::LoadResult ProtobufSchema::parse(const QByteArray &bytes, const QString &name)
+{
+    const google::protobuf::LogSilencer silencer;
+    auto schema = std::make_shared<ProtobufSchema>();
+    ErrorCollector collector(schema->tree);
+    schema->database.RecordErrorsTo(&collector);
+    schema->addDescriptorSet(bytes, name, collector);
+    return finish(std::move(schema), collector);
+}
+
+ProtobufSchema::LoadResult ProtobufSchema::finish(std::shared_ptr<ProtobufSchema> schema,
+                                                  const ErrorCollector &collector)
+{
     schema->database.RecordErrorsTo(nullptr);
     if (!collector.errors.isEmpty())
         schema.reset();
@@ -128,7 +144,7 @@ void ProtobufSchema::addProtoFile(const QString &file, ErrorCollector &errors)
     build(name.toStdString(), errors);
 }
 
-void ProtobufSchema::addDescriptorSet(const QString &file, ErrorCollector &errors)
+void ProtobufSchema::addDescriptorSetFile(const QString &file, ErrorCollector &errors)
 {
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly))
@@ -136,10 +152,17 @@ void ProtobufSchema::addDescriptorSet(const QString &file, ErrorCollector &error
     const QByteArray bytes = source.read(maximumSetSize + 1);
     if (bytes.size() > maximumSetSize)
         return errors.add(file, QStringLiteral("Larger than %1 bytes.").arg(maximumSetSize));
+    addDescriptorSet(bytes, file, errors);
+}
+
+void ProtobufSchema::addDescriptorSet(const QByteArray &bytes,
+                                      const QString &name,
+                                      ErrorCollector &errors)
+{
     google::protobuf::FileDescriptorSet set;
     if (!set.ParseFromArray(bytes.constData(), static_cast<int>(bytes.size()))
         || set.file_size() == 0)
-        return errors.add(file, QStringLiteral("This is no descriptor set; protoc writes one with "
+        return errors.add(name, QStringLiteral("This is no descriptor set; protoc writes one with "
                                                "--include_imports --include_source_info "
                                                "--descriptor_set_out=FILE."));
     for (const auto &description : set.file())

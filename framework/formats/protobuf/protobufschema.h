@@ -4,6 +4,7 @@
 #include "loaderror.h"
 #include "protobufsourcetree.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -39,6 +40,9 @@ public:
      */
     static LoadResult load(const QStringList &files, const QStringList &importFolders);
 
+    /** What the descriptor set \a bytes says; \a name: what errors call it. */
+    static LoadResult parse(const QByteArray &bytes, const QString &name);
+
     ProtobufSchema();
     ~ProtobufSchema();
     ProtobufSchema(const ProtobufSchema &) = delete;
@@ -60,7 +64,10 @@ public:
 private:
     class ErrorCollector;
 
-    void addDescriptorSet(const QString &file, ErrorCollector &errors);
+    static LoadResult finish(std::shared_ptr<ProtobufSchema> schema,
+                             const ErrorCollector &collector);
+    void addDescriptorSetFile(const QString &file, ErrorCollector &errors);
+    void addDescriptorSet(const QByteArray &bytes, const QString &name, ErrorCollector &errors);
     void addProtoFile(const QString &file, ErrorCollector &errors);
     void build(const std::string &name, ErrorCollector &errors);
 

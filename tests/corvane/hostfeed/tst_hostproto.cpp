@@ -153,15 +153,17 @@ void TestHostProto::overlay_hidesWhatIsConfidential()
 
 void TestHostProto::overlay_envelope()
 {
-    const QJsonObject envelope = overlay["envelope"].toObject();
-    const Descriptor *root = pool.FindMessageTypeByName(envelope["root"].toString().toStdString());
+    const char *rootName = "corvane.host.Envelope";
+    const Descriptor *root = pool.FindMessageTypeByName(rootName);
     QVERIFY(root != nullptr);
+    const QJsonObject message = overlay["messages"][QLatin1String(rootName)].toObject();
     const auto find = [root](const QJsonValue &name) {
         return root->FindFieldByName(name.toString().toStdString());
     };
-    QVERIFY(find(envelope["time"]["field"]) != nullptr);
-    QVERIFY(find(envelope["sequence"]) != nullptr);
-    QVERIFY(root->FindOneofByName(envelope["oneof"].toString().toStdString()) != nullptr);
+    QVERIFY(find(message["timeField"]["field"]) != nullptr);
+    QVERIFY(find(message["envelope"]["sequenceField"]) != nullptr);
+    QVERIFY(root->FindOneofByName(message["envelope"]["oneof"].toString().toStdString())
+            != nullptr);
 }
 
 CORVANE_TEST_MAIN(TestHostProto)

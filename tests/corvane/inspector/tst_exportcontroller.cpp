@@ -35,6 +35,7 @@ private Q_SLOTS:
     void withoutSource_saysSo();
     void action_asksAndExports();
     void statisticsAndEventLog_areWritten();
+    void eventLog_hasWhatWasOnlyCountedSoFar();
     void table_unwritable_isTold();
     void result_isClosedByTheButton();
 };
@@ -253,6 +254,17 @@ void tst_exportcontroller::statisticsAndEventLog_areWritten()
     const auto events = CsvParser::parse(shown.exported());
     QVERIFY(events);
     QCOMPARE(events->size(), shown.session.getReception().getEventLog()->getEntries().size() + 1);
+}
+
+void tst_exportcontroller::eventLog_hasWhatWasOnlyCountedSoFar()
+{
+    Shown shown(recording());
+    Reception &reception = shown.session.getReception();
+    constexpr qint64 timeUs = 1'800'000'000'000'000;
+    for (quint64 i = 0; i < 100; ++i)
+        reception.skipBytes(i, 1, timeUs);
+    shown.exports->exportEventLog(shown.path());
+    QVERIFY(shown.exported().contains("99 more in the same second"));
 }
 
 void tst_exportcontroller::table_unwritable_isTold()

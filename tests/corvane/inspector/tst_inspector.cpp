@@ -1,5 +1,6 @@
 #include "testcase.h"
 
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
@@ -10,6 +11,8 @@
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QtEndian>
+
+#include <csignal>
 
 using namespace corvane::test;
 
@@ -27,12 +30,20 @@ private Q_SLOTS:
     void report_fromStandardInput();
     void report_fromProgram();
     void report_fromListenedSocket_endsWithDuration();
+    void report_ofTheHostFeed_hasItsMessages();
     void report_confidentialValues_areNowhere();
     void mistake_exitsWith1AndSaysWhere_data();
     void mistake_exitsWith1AndSaysWhere();
     void failingProgram_keepsTheReport();
     void screenshot_showsTheWindow();
+    void screenshot_atEveryScale_data();
+    void screenshot_atEveryScale();
     void screenshot_unwritable_exitsWith1();
+    void optionsOfQt_areTakenByQt();
+    void withoutDefinitions_theWindowAsks();
+    void brokenSettings_arePutAside();
+    void crash_leavesItsTrace_data();
+    void crash_leavesItsTrace();
     void version_isPrinted();
 };
 
@@ -123,9 +134,9 @@ void tst_inspector::jsonReport_ofRecording_hasEveryKey()
     QCOMPARE(outcome.errors, QByteArray());
     QCOMPARE(outcome.exitCode, 0);
     const QJsonObject report = outcome.json();
-    QCOMPARE(report.keys(),
-             (QStringList{"bytes", "crcErrors", "eventCount", "events", "eventsOmitted", "frames",
-                          "messages", "senders", "skippedBytes", "source", "unknownFrames"}));
+    QCOMPARE(report.keys(), (QStringList{"bytes", "crcErrors", "eventCount", "events",
+                                         "eventsOmitted", "frames", "messages", "performance",
+                                         "senders", "skippedBytes", "source", "unknownFrames"}));
     QCOMPARE(report.value("source").toString(), example(QStringLiteral("rover.tlog")));
     QCOMPARE(report.value("bytes").toInteger(), recordedBytes().size());
     QCOMPARE(report.value("frames").toInteger(), 1737);
@@ -133,6 +144,13 @@ void tst_inspector::jsonReport_ofRecording_hasEveryKey()
     QCOMPARE(report.value("skippedBytes").toInteger(), 0);
     QCOMPARE(report.value("unknownFrames").toInteger(), 0);
     QCOMPARE(report.value("eventsOmitted").toInteger(), 0);
+    const QJsonObject performance = report.value("performance").toObject();
+    QCOMPARE(performance.keys(),
+             (QStringList{"backlogBytes", "longestRoundMs", "messagesPerSecond", "seconds"}));
+    QVERIFY(performance.value("backlogBytes").isNull()); // a file waits for nobody
+    QVERIFY(performance.value("longestRoundMs").toDouble() > 0);
+    QVERIFY(performance.value("seconds").toDouble() > 0);
+    QVERIFY(performance.value("messagesPerSecond").toInteger() > 0);
     QCOMPARE(sendersOf(report), (QStringList{"1/1 1677 2 8", "255/190 60 0 0"}));
     QCOMPARE(damageOf(report), QStringList{"MOTION 1"});
     const QJsonObject first = report.value("messages").toArray().at(0).toObject();
@@ -246,8 +264,8 @@ void tst_inspector::textReport_listsMessagesSendersAndEvents()
     const Outcome outcome
         = run(onExample({"--report", "text", example(QStringLiteral("rover.tlog"))}));
     QCOMPARE(outcome.exitCode, 0);
-    for (const char *part :
-         {"Good frames:     1737", "597            0", "8  1/1", "CRC error: MOTION"})
+    for (const char *part : {"Good frames:     1737", "597            0", "8  1/1",
+                             "CRC error: MOTION", "longest event round"})
         QVERIFY2(outcome.output.contains(part), part);
 }
 
@@ -281,6 +299,28 @@ void tst_inspector::report_fromListenedSocket_endsWithDuration()
     const auto report = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
     QCOMPARE(report.value("bytes").toInteger(), 30'000);
     QVERIFY(report.value("frames").toInteger() > 500);
+    QCOMPARE(report.value("performance")["backlogBytes"].toInteger(-1), 0);
+}
+
+void tst_inspector::report_ofTheHostFeed_hasItsMessages()
+{
+    const QString folder = sourceFile(QStringLiteral("corvane/hostfeed")) + QLatin1Char('/');
+    const QJsonObject report
+        = run({"--definitions", folder + "host.proto", "--overlay", folder + "host.overlay.json",
+               "--report", "json", "--duration", "2",
+               QStringLiteral("exec:'%1' --interval 100").arg(CORVANE_HOSTFEED)})
+              .json();
+    QVERIFY(report["frames"].toInt() >= 9);
+    QCOMPARE(report["unknownFrames"].toInt(), 0);
+    QCOMPARE(report["skippedBytes"].toInt(), 0);
+    QVERIFY(report["crcErrors"].isNull());
+    QStringList names;
+    for (const QJsonValue message : report["messages"].toArray())
+        names.append(message["name"].toString());
+    names.sort();
+    QCOMPARE(names, QStringList({"Disks", "Kernel", "Load averages", "Memory", "Network",
+                                 "Processes", "Processor", "Temperatures", "This stream"}));
+    QCOMPARE(report["senders"][0]["lost"].toInt(), 0);
 }
 
 void tst_inspector::report_confidentialValues_areNowhere()
@@ -350,11 +390,112 @@ void tst_inspector::screenshot_showsTheWindow()
     QVERIFY(image.convertToFormat(QImage::Format_Indexed8).colorCount() > 2);
 }
 
+void tst_inspector::screenshot_atEveryScale_data()
+{
+    QTest::addColumn<QByteArray>("scale");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("1") << QByteArray("1") << QSize(800, 500);
+    QTest::newRow("1.5") << QByteArray("1.5") << QSize(1200, 750);
+    QTest::newRow("2") << QByteArray("2") << QSize(1600, 1000);
+}
+
+void tst_inspector::screenshot_atEveryScale()
+{
+    QFETCH(QByteArray, scale);
+    QFETCH(QSize, size);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("window.png");
+    qputenv("QT_SCALE_FACTOR", scale);
+    const Outcome outcome
+        = run(QStringList{"-qwindowgeometry", "800x500"}
+              + onExample({"--screenshot", file, "--after", "0.5", example("rover.tlog")}));
+    qunsetenv("QT_SCALE_FACTOR");
+    QVERIFY2(outcome.exitCode == 0, outcome.errors.constData());
+    QCOMPARE(QImage(file).size(), size);
+}
+
 void tst_inspector::screenshot_unwritable_exitsWith1()
 {
     const Outcome outcome = run({"--screenshot", "no/such/folder/window.png", "--after", "0"});
     QCOMPARE(outcome.exitCode, 1);
     QVERIFY(outcome.errors.contains("no/such/folder/window.png"));
+}
+
+void tst_inspector::optionsOfQt_areTakenByQt()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("window.png");
+    const Outcome outcome
+        = run(QStringList{"-style", "windows", "-platform", "offscreen"}
+              + onExample({"--screenshot", file, "--after", "0.2", example("rover.tlog")}));
+    QVERIFY2(outcome.exitCode == 0, outcome.errors.constData());
+    QVERIFY(!QImage(file).isNull());
+    const Outcome wrong = run({"-style", "windows", "--wrong"});
+    QCOMPARE(wrong.exitCode, 1);
+    QVERIFY2(wrong.errors.contains("corvane-inspector: Unknown option 'wrong'"),
+             wrong.errors.constData());
+}
+
+void tst_inspector::withoutDefinitions_theWindowAsks()
+{
+    QProcess process;
+    process.start(QStringLiteral(CORVANE_INSPECTOR), {example("rover.tlog")});
+    QVERIFY(process.waitForStarted());
+    QVERIFY(!process.waitForFinished(1000)); // it shows a window instead of giving up
+    process.terminate();
+    QVERIFY(process.waitForFinished());
+}
+
+void tst_inspector::brokenSettings_arePutAside()
+{
+    const QTemporaryDir home;
+    const QDir folder(home.filePath("corvane"));
+    QVERIFY(QDir().mkpath(folder.path()));
+    QFile broken(folder.filePath("corvane-inspector.ini"));
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    broken.write("\x7f\0\xff no settings", 15);
+    broken.close();
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    const Outcome outcome = run(onExample(
+        {"--screenshot", home.filePath("window.png"), "--after", "0.2", example("rover.tlog")}));
+    qputenv("XDG_CONFIG_HOME", before);
+    QVERIFY2(outcome.exitCode == 0, outcome.errors.constData());
+    QCOMPARE(folder.entryList({"corvane-inspector.ini.broken-*"}).size(), 1);
+}
+
+void tst_inspector::crash_leavesItsTrace_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("memory fault") << SIGSEGV << QByteArray("SIGSEGV");
+    QTest::newRow("assertion") << SIGABRT << QByteArray("SIGABRT");
+}
+
+void tst_inspector::crash_leavesItsTrace()
+{
+    QFETCH(int, signal);
+    QFETCH(QByteArray, name);
+    const QTemporaryDir home;
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_DATA_HOME", home.path());
+    environment.insert("XDG_CONFIG_HOME", home.path());
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(CORVANE_INSPECTOR), onExample({example("rover.tlog")}));
+    QVERIFY(process.waitForStarted());
+    QVERIFY(!process.waitForFinished(1500)); // it is reading by then
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    const QDir folder(home.filePath("corvane/crashes"));
+    const QStringList files = folder.entryList({"crash-*.txt"});
+    QCOMPARE(files.size(), 1);
+    QFile file(folder.filePath(files.constFirst()));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray trace = file.readAll();
+    QVERIFY2(trace.startsWith("corvane-inspector ended by " + name), trace.constData());
+    QVERIFY2(trace.contains("Opened "), trace.constData());
 }
 
 void tst_inspector::version_isPrinted()

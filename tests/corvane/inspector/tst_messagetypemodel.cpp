@@ -19,7 +19,7 @@ private Q_SLOTS:
     void counts_changeOnRefreshOnly();
     void counts_sortAsNumbers();
     void unknownId_isListedAndExplained();
-    void toolTip_showsMarkupAsText();
+    void toolTip_isTheDescription();
 };
 
 namespace {
@@ -117,13 +117,13 @@ void tst_messagetypemodel::unknownId_isListedAndExplained()
                 .contains(QStringLiteral("No definition")));
 }
 
-void tst_messagetypemodel::toolTip_showsMarkupAsText()
+void tst_messagetypemodel::toolTip_isTheDescription()
 {
     Received received;
     received.receive("Speed");
     received.model.refresh();
     QCOMPARE(received.model.index(0, 0).data(Qt::ToolTipRole).toString(),
-             QStringLiteral("&lt;b&gt;How&lt;/b&gt; fast"));
+             QStringLiteral("<b>How</b> fast"));
 }
 
 CORVANE_TEST_MAIN(tst_messagetypemodel)

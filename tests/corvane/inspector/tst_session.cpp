@@ -1,4 +1,5 @@
 #include "fileindex.h"
+#include "mcapwriter.h"
 #include "message.h"
 #include "messageinfo.h"
 #include "playback.h"
@@ -11,6 +12,10 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
+
+#include <google/protobuf/descriptor.pb.h>
+
+#include <unistd.h>
 
 #include <memory>
 
@@ -28,6 +33,7 @@ private Q_SLOTS:
     void start_atOwnPace_waitsForTheFrames();
     void start_missingFile_failsAndSaysSo();
     void load_protobufDefinitions_choosesTheFormat();
+    void load_mcapFile_bringsItsDefinitions();
     void load_whatDoesNotGoTogether_isExplained_data();
     void load_whatDoesNotGoTogether_isExplained();
     void getSourceName_withoutSource_isEmpty();
@@ -135,6 +141,42 @@ void tst_session::load_protobufDefinitions_choosesTheFormat()
     QCOMPARE(session.getReception().getTotals().frames, 2U);
     QCOMPARE(session.getReception().getTotals().skippedBytes, 0U);
     QVERIFY(!session.getReception().getTotals().crcErrors);
+}
+
+void tst_session::load_mcapFile_bringsItsDefinitions()
+{
+    google::protobuf::FileDescriptorSet set;
+    auto *definition = set.add_file();
+    definition->set_name("a.proto");
+    definition->set_package("p");
+    definition->add_message_type()->set_name("A");
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("a.log")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(mcapMagic()
+               + mcapSchema(1, "p.A", QByteArray::fromStdString(set.SerializeAsString()))
+               + mcapChannel(2, 1, "/a") + mcapChunk("zstd", mcapMessage(2, 1, QByteArray()))
+               + mcapMessage(2, 2, QByteArray()) + mcapEnd());
+    file.close();
+    Options options;
+    options.source = SourceAddress::parse(file.fileName()).address;
+    options.speed.reset();
+    Session session;
+    QCOMPARE(session.load(options), QStringList());
+    QSignalSpy finished(&session, &Session::finished);
+    session.start(options);
+    QVERIFY(session.getPlayback() != nullptr);
+    QVERIFY(finished.wait());
+    QCOMPARE(session.getReception().getTotals().frames, 2U);
+    session.getPlayback()->seek(0);
+    session.getPlayback()->play();
+    QVERIFY(finished.wait());
+    QCOMPARE(session.getReception().getTotals().frames, 4U);
+
+    options.definitions = {QStringLiteral("a.proto")};
+    const QStringList errors = session.load(options);
+    QCOMPARE(errors.size(), 1);
+    QVERIFY(errors.constFirst().contains("brings its own definitions"));
 }
 
 void tst_session::load_whatDoesNotGoTogether_isExplained_data()
@@ -455,6 +497,12 @@ void tst_session::recording_toTheSourceItself_isRefused()
     session.start(options);
     const QString same = folder.filePath(QStringLiteral("./copy.tlog"));
     QVERIFY(session.startRecording(same).contains(QStringLiteral("being read")));
+    const QString link = folder.filePath(QStringLiteral("link.tlog"));
+    QVERIFY(QFile::link(path, link));
+    QVERIFY(session.startRecording(link).contains(QStringLiteral("being read")));
+    const QString hardLink = folder.filePath(QStringLiteral("hard.tlog"));
+    QCOMPARE(::link(qPrintable(path), qPrintable(hardLink)), 0);
+    QVERIFY(session.startRecording(hardLink).contains(QStringLiteral("being read")));
     QVERIFY(!session.getRecorder().isRecording());
     QVERIFY(readFile(path) == before);
 }

@@ -60,6 +60,7 @@ private Q_SLOTS:
     void read_followsThePeer();
     void read_afterPeerClosed_givesTheRest();
     void read_whilePaused_holdsThePeerBack();
+    void waitingBytes_untilTheyAreRead();
     void read_afterReset_ends();
     void read_beforeConnected_givesNothing();
     void close_disconnects();
@@ -125,6 +126,23 @@ void TestTcpClientSource::read_whilePaused_holdsThePeerBack()
     reader.setPaused(false);
     QTRY_COMPARE(reader.bytes.size(), written);
     QVERIFY(server.writeWhatFits(1) > 0);
+}
+
+void TestTcpClientSource::waitingBytes_untilTheyAreRead()
+{
+    Server server;
+    TcpClientSource source(loopback, server.getPort());
+    test::SourceReader reader(source);
+    reader.setPaused(true);
+    source.open();
+    QVERIFY(!source.getWaitingBytes());
+    QTRY_VERIFY(server.accept());
+    server.peer->write(QByteArray(1'000'000, 'x'));
+    // More than the source itself keeps, so that some of it is the system's.
+    QTRY_VERIFY(source.getWaitingBytes().value_or(0) > 100'000);
+    reader.setPaused(false);
+    QTRY_COMPARE(reader.bytes.size(), 1'000'000);
+    QCOMPARE(source.getWaitingBytes(), qint64(0));
 }
 
 void TestTcpClientSource::read_afterReset_ends()

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void read_ofAnyAddress_takesBothFamilies();
     void open_ofMulticastGroup_joinsIt();
     void name_tellsTheRealPort();
+    void waitingBytes_untilTheyAreRead();
     void droppedCount_whenTheBufferOverflows();
     void open_ofUsedPort_fails();
     void open_ofForeignAddress_fails();
@@ -142,6 +143,24 @@ void TestUdpSource::name_tellsTheRealPort()
     source.open();
     QVERIFY(getPort(source) > 0);
     QCOMPARE(source.getName(), QStringLiteral("udp://127.0.0.1:%1").arg(getPort(source)));
+}
+
+void TestUdpSource::waitingBytes_untilTheyAreRead()
+{
+    UdpSource source(loopback, 0);
+    QVERIFY(!source.getWaitingBytes());
+    test::SourceReader reader(source);
+    reader.setPaused(true);
+    source.open();
+    if (!source.getWaitingBytes())
+        QSKIP("only Linux tells what waits");
+    QCOMPARE(source.getWaitingBytes(), qint64(0));
+    QUdpSocket sender;
+    for (int i = 0; i < 10; ++i)
+        sender.writeDatagram(QByteArray(500, 'x'), QHostAddress(loopback), getPort(source));
+    QTRY_VERIFY(*source.getWaitingBytes() >= 5000);
+    reader.setPaused(false);
+    QTRY_COMPARE(source.getWaitingBytes(), qint64(0));
 }
 
 void TestUdpSource::droppedCount_whenTheBufferOverflows()

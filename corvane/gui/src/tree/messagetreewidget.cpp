@@ -6,6 +6,7 @@
 #include "message.h"
 #include "messageinfo.h"
 #include "messagetreewidgetitem.h"
+#include "translations.h"
 
 #include <QAction>
 #include <QMessageBox>
@@ -36,6 +37,7 @@ void assertNotNegative(MessageTreeWidget::ColumnType type, const char *function,
 MessageTreeWidget::MessageTreeWidget(QWidget *parent)
     : SteadyTreeWidget(parent)
 {
+    corvane::installTranslations();
     MemLeakTracer::getInstance()->doAllocateObject(QStringLiteral("MessageTreeWidget"));
     connect(this, SIGNAL(itemExpanded(QTreeWidgetItem *)),
             SLOT(processItemExpandedOrCollapsed(QTreeWidgetItem *)));

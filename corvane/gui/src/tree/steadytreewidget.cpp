@@ -6,9 +6,41 @@
 #include <QSet>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QStyledItemDelegate>
 
 #include <bitset>
 #include <utility>
+
+namespace {
+
+class ShorteningDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant &value, const QLocale &locale) const override
+    {
+        return SteadyTreeWidget::shortened(QStyledItemDelegate::displayText(value, locale));
+    }
+};
+
+bool isLineBreak(QChar character)
+{
+    switch (character.unicode()) {
+    case u'\n':
+    case u'\v':
+    case u'\f':
+    case u'\r':
+    case 0x85:
+    case QChar::LineSeparator:
+    case QChar::ParagraphSeparator:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
 
 /** Which characters are as high as a Latin letter, in the tree's font and style. */
 class SteadyTreeWidget::PlainCharacters
@@ -68,8 +100,11 @@ private:
 
 SteadyTreeWidget::SteadyTreeWidget(QWidget *parent)
     : QTreeWidget(parent)
-    , ownDelegate(itemDelegate())
+    , ownDelegate(new ShorteningDelegate(this))
 {
+    const QAbstractItemDelegate *stock = itemDelegate();
+    setItemDelegate(ownDelegate);
+    delete stock;
 }
 
 SteadyTreeWidget::~SteadyTreeWidget() = default;
@@ -160,6 +195,24 @@ void SteadyTreeWidget::moveCurrentOut(QTreeWidgetItem *parent,
     else
         setCurrentItem(next, currentColumn(), QItemSelectionModel::NoUpdate);
     setAutoScroll(scrollsByItself);
+}
+
+QString SteadyTreeWidget::shortened(const QString &text)
+{
+    constexpr qsizetype maximumCharacters = 1000;
+    constexpr int maximumLines = 4;
+    qsizetype end = 0;
+    int lines = 1;
+    while (end < qMin(text.size(), maximumCharacters)) {
+        if (isLineBreak(text.at(end)) && ++lines > maximumLines)
+            break;
+        ++end;
+    }
+    if (end == text.size())
+        return text;
+    if (end > 0 && text.at(end - 1).isHighSurrogate())
+        --end;
+    return text.left(end) + QChar(0x2026);
 }
 
 void SteadyTreeWidget::dataChanged(const QModelIndex &topLeft,

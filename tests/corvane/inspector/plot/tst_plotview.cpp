@@ -36,6 +36,7 @@ private Q_SLOTS:
     void constantValue_liesInTheMiddle();
     void keys_moveAndZoom();
     void keys_ofTheValueAxes();
+    void keys_ofTheValueAxes_comeBeforeShortcuts();
     void keys_moveTheCursor();
     void wheel_zoomsAroundThePointer();
     void drag_pans();
@@ -325,6 +326,20 @@ void tst_plotview::keys_ofTheValueAxes()
     shown.press(Qt::Key_V);
     QCOMPARE(range().size(), 11.0);
     QVERIFY(!shown.view.getStateText().contains("by hand"));
+}
+
+void tst_plotview::keys_ofTheValueAxes_comeBeforeShortcuts()
+{
+    Shown plot;
+    const auto isTaken = [&plot](int key, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent event(QEvent::ShortcutOverride, key, modifiers);
+        event.ignore();
+        QCoreApplication::sendEvent(&plot.view, &event);
+        return event.isAccepted();
+    };
+    QVERIFY(isTaken(Qt::Key_Plus, Qt::ControlModifier));
+    QVERIFY(isTaken(Qt::Key_Minus, Qt::ControlModifier));
+    QVERIFY(!isTaken(Qt::Key_R, Qt::ControlModifier));
 }
 
 void tst_plotview::keys_moveTheCursor()

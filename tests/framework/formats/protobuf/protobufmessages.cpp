@@ -89,7 +89,7 @@ QByteArray framedLittleEndian(const QByteArray &message)
     return framed + message;
 }
 
-ProtobufRun::ProtobufRun(const ProtobufFormat &format, const QString &framing)
+ProtobufRun::ProtobufRun(const StreamFormat &format, const QString &framing)
     : need(&manager)
     , reception(format, &manager)
     , decoder(format.makeDecoder(reception, framing))

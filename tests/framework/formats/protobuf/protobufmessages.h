@@ -27,7 +27,7 @@ public:
 
     QString path(const QString &name) const { return folder.filePath(name); }
 
-    ProtobufFormat &getFormat() { return *format; }
+    ProtobufFormat &getFormat() const { return *format; }
 
     /** The errors of loading, without the path of the folder. */
     QStringList getErrors() const { return errors; }
@@ -67,7 +67,7 @@ QByteArray framedLittleEndian(const QByteArray &message);
 class ProtobufRun
 {
 public:
-    explicit ProtobufRun(const ProtobufFormat &format, const QString &framing = {});
+    explicit ProtobufRun(const StreamFormat &format, const QString &framing = {});
 
     /** Takes \a stream in pieces of that size, or whole. */
     void append(const QByteArray &stream, qsizetype pieceSize = 0);

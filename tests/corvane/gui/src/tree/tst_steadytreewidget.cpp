@@ -7,6 +7,7 @@
 #include <QRandomGenerator>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QStyledItemDelegate>
 
 #include <functional>
 
@@ -33,6 +34,8 @@ private Q_SLOTS:
     void removeChildren_sorted();
     void removeChildren_ofTheCurrentItem();
     void items_outsideOfATree();
+    void endlessText_isShownShortened_data();
+    void endlessText_isShownShortened();
 };
 
 namespace {
@@ -455,6 +458,39 @@ void TestSteadyTreeWidget::items_outsideOfATree()
     QCOMPARE(item.text(1), "text");
     SteadyTreeWidget::removeChildren(&item, {child});
     QCOMPARE(item.childCount(), 0);
+}
+
+void TestSteadyTreeWidget::endlessText_isShownShortened_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shown");
+
+    const QString most(1000, 'x');
+    const QString face = QString::fromUtf8("\U0001F600");
+    QTest::newRow("empty") << QString() << QString();
+    QTest::newRow("most characters") << most << most;
+    QTest::newRow("one more") << most + 'y' << most + QChar(0x2026);
+    QTest::newRow("character of two units")
+        << most.chopped(1) + face << most.chopped(1) + QChar(0x2026);
+    QTest::newRow("most lines") << "a\nb\nc\nd"
+                                << "a\nb\nc\nd";
+    for (const int lineBreak : {0x0A, 0x0B, 0x0C, 0x0D, 0x85, 0x2028, 0x2029})
+        QTest::addRow("one line more, U+%04X", lineBreak)
+            << QString("a.b.c.d.e").replace('.', QChar(lineBreak))
+            << QString("a.b.c.d").replace('.', QChar(lineBreak)) + QChar(0x2026);
+}
+
+void TestSteadyTreeWidget::endlessText_isShownShortened()
+{
+    QFETCH(QString, text);
+    QTEST(SteadyTreeWidget::shortened(text), "shown");
+    SteadyTreeWidget tree;
+    auto *item = new QTreeWidgetItem(&tree);
+    SteadyTreeWidget::setItemText(item, 0, text);
+    QCOMPARE(item->text(0), text);
+    const auto *delegate = qobject_cast<const QStyledItemDelegate *>(tree.itemDelegate());
+    const QString plain = SteadyTreeWidget::shortened(text).replace('\n', QChar::LineSeparator);
+    QCOMPARE(delegate->displayText(text, QLocale()), plain);
 }
 
 CORVANE_GUI_TEST_MAIN(TestSteadyTreeWidget)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "corvaneframework_export.h"
+#include "mcapdefinitions.h"
 #include "mcaprecords.h"
 
 #include <QByteArray>
@@ -9,7 +10,6 @@
 #include <QtGlobal>
 
 #include <cstddef>
-#include <map>
 #include <optional>
 
 namespace corvane {
@@ -27,6 +27,8 @@ struct McapProblem
     Kind kind = Kind::Damaged;
     qint64 offset = 0; ///< In the file; of the chunk, for what stands in one.
     QString text; ///< A sentence for people.
+    /** How many bytes from the offset on are passed over because of it, if the file has so many. */
+    quint64 size = 0;
 };
 
 /** Is told what a McapReader reads, in the order of the file. */
@@ -85,6 +87,9 @@ public:
     McapReader(const McapReader &) = delete;
     McapReader &operator=(const McapReader &) = delete;
 
+    /** Makes known what the file defines elsewhere; the listener is told. */
+    void define(const McapDefinitions &definitions);
+
     void append(QByteArrayView bytes);
     /** No more bytes will come; step() tells of the end when it gets there. */
     void finish();
@@ -92,6 +97,14 @@ public:
     /** The log time of the message that step() would read; nothing if it would read another thing.
      */
     std::optional<quint64> getNextLogTimeNs() const;
+    /**
+     * Begins anew at \a newOffset, which is 0 or that of a record before the summary. What was
+     * defined so far stays known.
+     */
+    void reset(qint64 newOffset);
+
+    /** What was defined so far. */
+    const McapDefinitions &getDefinitions() const { return definitions; }
 
     /** How far the file was read; a chunk counts as read before its first record. */
     qint64 getOffset() const { return offset; }
@@ -121,7 +134,10 @@ private:
     bool isWhole(const McapRecordHeader &header) const;
     QByteArrayView getAvailable() const;
     void consume(qsizetype size);
-    void reportProblem(McapProblem::Kind kind, qint64 problemOffset, const QString &text);
+    void reportProblem(McapProblem::Kind kind,
+                       qint64 problemOffset,
+                       const QString &text,
+                       quint64 size = 0);
 
     McapListener &listener; ///< Not owned.
     const McapLimits limits;
@@ -137,8 +153,7 @@ private:
     QByteArray chunkRecords; ///< Without compression.
     qsizetype chunkPosition = 0;
     qint64 chunkOffset = 0;
-    std::map<quint16, McapSchema> schemas;
-    std::map<quint16, McapChannel> channels;
+    McapDefinitions definitions;
     quint64 totalSchemaBytes = 0;
 };
 

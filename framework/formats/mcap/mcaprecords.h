@@ -16,6 +16,9 @@
 
 namespace corvane {
 
+/** What a file begins and ends with. */
+inline constexpr QByteArrayView mcapFileMark("\x89MCAP0\r\n", 8);
+
 /** How the messages of channels are laid out. */
 struct McapSchema
 {

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <array>
+#include <limits>
 
 namespace corvane {
 
@@ -13,8 +13,8 @@ namespace {
 
 using Kind = McapProblem::Kind;
 
-constexpr std::array<char, 8> magic{'\x89', 'M', 'C', 'A', 'P', '0', '\r', '\n'};
 constexpr qsizetype compactingBytes = 1024 * 1024;
+constexpr quint64 restOfFile = std::numeric_limits<quint64>::max();
 
 QString tr(const char *text)
 {
@@ -37,11 +37,16 @@ QString findMistake(const McapChunk &chunk, const Decompression &result)
 {
     switch (result.end) {
     case Decompression::End::UnknownMethod:
-        return tr("A chunk is compressed with \"%1\", which is not known.").arg(chunk.compression);
+        return QCoreApplication::translate("corvane::McapReader",
+                                           "A chunk is compressed with \"%1\", which is not known.")
+            .arg(chunk.compression);
     case Decompression::End::Damaged:
-        return tr("A chunk cannot be decompressed.");
+        return QCoreApplication::translate("corvane::McapReader",
+                                           "A chunk cannot be decompressed.");
     case Decompression::End::TooLong:
-        return tr("A chunk holds more than the %1 bytes it tells of.").arg(chunk.uncompressedSize);
+        return QCoreApplication::translate("corvane::McapReader",
+                                           "A chunk holds more than the %1 bytes it tells of.")
+            .arg(chunk.uncompressedSize);
     case Decompression::End::Cut:
     case Decompression::End::Complete:
         break;
@@ -50,9 +55,12 @@ QString findMistake(const McapChunk &chunk, const Decompression &result)
         return QString();
     if (result.end == Decompression::End::Cut
         || static_cast<quint64>(result.bytes.size()) != chunk.uncompressedSize)
-        return tr("A chunk holds less than the %1 bytes it tells of.").arg(chunk.uncompressedSize);
+        return QCoreApplication::translate("corvane::McapReader",
+                                           "A chunk holds less than the %1 bytes it tells of.")
+            .arg(chunk.uncompressedSize);
     if (chunk.uncompressedCrc != 0 && chunk.uncompressedCrc != getCrc32(result.bytes))
-        return tr("The checksum of a chunk is wrong.");
+        return QCoreApplication::translate("corvane::McapReader",
+                                           "The checksum of a chunk is wrong.");
     return QString();
 }
 
@@ -64,6 +72,29 @@ McapReader::McapReader(McapListener &listener, const McapLimits &limits)
     : listener(listener)
     , limits(limits)
 {
+}
+
+void McapReader::define(const McapDefinitions &more)
+{
+    for (const auto &[id, schema] : more.schemas)
+        if (const auto added = definitions.schemas.emplace(id, schema); added.second)
+            listener.readSchema(added.first->second);
+    for (const auto &[id, channel] : more.channels)
+        if (const auto added = definitions.channels.emplace(id, channel); added.second)
+            listener.readChannel(added.first->second, definitions.findSchema(channel));
+}
+
+void McapReader::reset(qint64 newOffset)
+{
+    part = newOffset == 0 ? Part::Magic : Part::Data;
+    isFinished = false;
+    isCutReported = false;
+    buffer.clear();
+    consumed = 0;
+    offset = newOffset;
+    bytesToPassOver = 0;
+    isInChunk = false;
+    chunkRecords = QByteArray();
 }
 
 void McapReader::append(QByteArrayView bytes)
@@ -115,14 +146,15 @@ std::optional<quint64> McapReader::getNextLogTimeNs() const
 
 McapReader::Step McapReader::stepMagic()
 {
-    const QByteArrayView expected(magic.data(), magic.size());
+    const QByteArrayView expected = mcapFileMark;
     const QByteArrayView found
         = getAvailable().first(std::min(getAvailable().size(), expected.size()));
     const bool isOpening = part == Part::Magic;
     if (!expected.startsWith(found)) {
         reportProblem(isOpening ? Kind::NotMcap : Kind::Damaged, offset,
                       isOpening ? tr("This is no MCAP file, or one of another version.")
-                                : tr("The mark at the end of the file is wrong."));
+                                : tr("The mark at the end of the file is wrong."),
+                      restOfFile);
         part = Part::Unreadable;
         return Step::Advanced;
     }
@@ -157,7 +189,8 @@ void McapReader::beginPassingOver(const McapRecordHeader &header)
     const auto opcode = static_cast<McapOpcode>(header.opcode);
     if (header.opcode == 0) {
         // As in a file whose end was never written. Nothing tells where another record begins.
-        reportProblem(Kind::Damaged, offset, tr("There is no record where one must be."));
+        reportProblem(Kind::Damaged, offset, tr("There is no record where one must be."),
+                      restOfFile);
         part = Part::Unreadable;
         return;
     }
@@ -165,7 +198,8 @@ void McapReader::beginPassingOver(const McapRecordHeader &header)
         reportProblem(Kind::TooLarge, offset,
                       tr("A record of %1 bytes is larger than the %2 that are allowed.")
                           .arg(header.contentSize)
-                          .arg(limits.recordBytes));
+                          .arg(limits.recordBytes),
+                      McapRecordHeader::size + header.contentSize);
     if (opcode == McapOpcode::DataEnd)
         part = Part::Summary;
     else if (opcode == McapOpcode::Footer)
@@ -210,7 +244,8 @@ McapReader::Step McapReader::stepBehindEnd()
     if (getAvailable().isEmpty())
         return Step::NeedsBytes;
     if (part == Part::End) {
-        reportProblem(Kind::Damaged, offset, tr("There are bytes behind the end of the file."));
+        reportProblem(Kind::Damaged, offset, tr("There are bytes behind the end of the file."),
+                      restOfFile);
         part = Part::Unreadable;
     }
     consume(getAvailable().size());
@@ -252,8 +287,8 @@ void McapReader::readSchema(QByteArrayView content, qint64 recordOffset)
     const std::optional<McapSchema> schema = parseMcapSchema(content);
     if (!schema || schema->id == 0)
         return reportProblem(Kind::Damaged, recordOffset, tr("A schema is incomplete."));
-    const auto known = schemas.find(schema->id);
-    if (known != schemas.end()) {
+    const auto known = definitions.schemas.find(schema->id);
+    if (known != definitions.schemas.end()) {
         if (!(known->second == *schema))
             reportProblem(
                 Kind::Damaged, recordOffset,
@@ -261,11 +296,12 @@ void McapReader::readSchema(QByteArrayView content, qint64 recordOffset)
         return;
     }
     const auto size = static_cast<quint64>(content.size());
-    if (schemas.size() >= limits.schemas || size > limits.schemaBytes - totalSchemaBytes)
+    if (definitions.schemas.size() >= limits.schemas
+        || size > limits.schemaBytes - totalSchemaBytes)
         return reportProblem(Kind::TooLarge, recordOffset,
                              tr("There are more or larger schemas than are allowed."));
     totalSchemaBytes += size;
-    listener.readSchema(schemas.emplace(schema->id, *schema).first->second);
+    listener.readSchema(definitions.schemas.emplace(schema->id, *schema).first->second);
 }
 
 void McapReader::readChannel(QByteArrayView content, qint64 recordOffset)
@@ -273,25 +309,24 @@ void McapReader::readChannel(QByteArrayView content, qint64 recordOffset)
     const std::optional<McapChannel> channel = parseMcapChannel(content);
     if (!channel)
         return reportProblem(Kind::Damaged, recordOffset, tr("A channel is incomplete."));
-    const auto known = channels.find(channel->id);
-    if (known != channels.end()) {
+    const auto known = definitions.channels.find(channel->id);
+    if (known != definitions.channels.end()) {
         if (!(known->second == *channel))
             reportProblem(
                 Kind::Damaged, recordOffset,
                 tr("Channel %1 is not the one that had this number before.").arg(channel->id));
         return;
     }
-    const auto schema = schemas.find(channel->schemaId);
-    if (channel->schemaId != 0 && schema == schemas.end())
+    const McapSchema *schema = definitions.findSchema(*channel);
+    if (channel->schemaId != 0 && schema == nullptr)
         return reportProblem(Kind::Damaged, recordOffset,
                              tr("Channel %1 names schema %2, which the file does not contain.")
                                  .arg(channel->id)
                                  .arg(channel->schemaId));
-    if (channels.size() >= limits.channels)
+    if (definitions.channels.size() >= limits.channels)
         return reportProblem(Kind::TooLarge, recordOffset,
                              tr("There are more channels than are allowed."));
-    listener.readChannel(channels.emplace(channel->id, *channel).first->second,
-                         schema == schemas.end() ? nullptr : &schema->second);
+    listener.readChannel(definitions.channels.emplace(channel->id, *channel).first->second, schema);
 }
 
 void McapReader::readMessage(QByteArrayView content, qint64 recordOffset)
@@ -299,8 +334,8 @@ void McapReader::readMessage(QByteArrayView content, qint64 recordOffset)
     const std::optional<McapMessage> message = parseMcapMessage(content);
     if (!message)
         return reportProblem(Kind::Damaged, recordOffset, tr("A message is incomplete."));
-    const auto channel = channels.find(message->channelId);
-    if (channel == channels.end())
+    const auto channel = definitions.channels.find(message->channelId);
+    if (channel == definitions.channels.end())
         return reportProblem(Kind::Damaged, recordOffset,
                              tr("A message names channel %1, which the file does not contain.")
                                  .arg(message->channelId));
@@ -310,21 +345,23 @@ void McapReader::readMessage(QByteArrayView content, qint64 recordOffset)
 void McapReader::openChunk(QByteArrayView content, bool isFileCut, qint64 recordOffset)
 {
     const std::optional<McapChunk> chunk = parseMcapChunk(content);
+    const auto size = static_cast<quint64>(McapRecordHeader::size + content.size());
     if (!chunk || (chunk->isCut && !isFileCut)) {
         if (!isFileCut)
-            reportProblem(Kind::Damaged, recordOffset, tr("A chunk is incomplete."));
+            reportProblem(Kind::Damaged, recordOffset, tr("A chunk is incomplete."), size);
         return;
     }
     if (chunk->uncompressedSize > limits.chunkBytes)
         return reportProblem(Kind::TooLarge, recordOffset,
                              tr("A chunk tells of %1 bytes, more than the %2 that are allowed.")
                                  .arg(chunk->uncompressedSize)
-                                 .arg(limits.chunkBytes));
+                                 .arg(limits.chunkBytes),
+                             size);
     const Decompression result
         = decompress(chunk->compression, chunk->records, chunk->uncompressedSize);
     const QString mistake = findMistake(*chunk, result);
     if (!mistake.isEmpty())
-        return reportProblem(Kind::Damaged, recordOffset, mistake);
+        return reportProblem(Kind::Damaged, recordOffset, mistake, size);
     isInChunk = true;
     isChunkCut = chunk->isCut;
     chunkRecords = result.bytes;
@@ -353,9 +390,12 @@ void McapReader::consume(qsizetype size)
     }
 }
 
-void McapReader::reportProblem(McapProblem::Kind kind, qint64 problemOffset, const QString &text)
+void McapReader::reportProblem(McapProblem::Kind kind,
+                               qint64 problemOffset,
+                               const QString &text,
+                               quint64 size)
 {
-    listener.reportProblem({kind, problemOffset, text});
+    listener.reportProblem({kind, problemOffset, text, size});
 }
 
 } // namespace corvane

@@ -111,11 +111,13 @@ inline quint32 mcapCrc(const QByteArray &bytes)
 inline QByteArray mcapChunk(const QByteArray &method,
                             const QByteArray &compressed,
                             quint64 uncompressedSize,
-                            quint32 crc)
+                            quint32 crc,
+                            quint64 firstTimeNs = 1,
+                            quint64 lastTimeNs = 2)
 {
     return mcapRecord(6, McapBytes()
-                             .number(quint64(1))
-                             .number(quint64(2))
+                             .number(firstTimeNs)
+                             .number(lastTimeNs)
                              .number(uncompressedSize)
                              .number(crc)
                              .sized(method)
@@ -128,6 +130,14 @@ inline QByteArray mcapChunk(const QByteArray &method, const QByteArray &records)
 {
     return mcapChunk(method, mcapCompress(method, records), static_cast<quint64>(records.size()),
                      mcapCrc(records));
+}
+
+/** The end of the data and of the file, with a summary that begins at \a summaryOffset. */
+inline QByteArray mcapEnd(const QByteArray &summary, qint64 summaryOffset)
+{
+    const QByteArray footer
+        = McapBytes().number(static_cast<quint64>(summaryOffset)).raw(QByteArray(12, '\0')).bytes;
+    return mcapRecord(0x0f, QByteArray(4, '\0')) + summary + mcapRecord(2, footer) + mcapMagic();
 }
 
 /** The end of the data, a summary that repeats \a summary, and the end of the file. */

@@ -1,0 +1,36 @@
+# `cpack`: Debian packages of what `cmake --install` installs. scripts/package runs it.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME corvane)
+set(CPACK_PACKAGE_VENDOR "Corvane")
+set(CPACK_PACKAGE_CONTACT "The Corvane developers <corvane@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_COMPONENTS_ALL runtime development inspector)
+
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/lib)
+set(CPACK_DEBIAN_DEBUGINFO_PACKAGE ON)
+
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libcorvane0)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The libraries: widgets, message framework and base.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libcorvane-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "qt6-base-dev (>= 6.4)")
+set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
+    "Headers, CMake package, pkg-config files and the plug-in for Qt Designer.")
+
+set(CPACK_DEBIAN_INSPECTOR_PACKAGE_NAME corvane-inspector)
+set(CPACK_DEBIAN_INSPECTOR_PACKAGE_SECTION devel)
+set(CPACK_DEBIAN_INSPECTOR_PACKAGE_DEPENDS "qt6-qpa-plugins")
+set(CPACK_COMPONENT_INSPECTOR_DEPENDS runtime)
+set(CPACK_COMPONENT_INSPECTOR_DESCRIPTION
+    "A desktop program for MAVLink and Protocol Buffers streams, and a feed of this machine's figures.")
+
+include(CPack)
