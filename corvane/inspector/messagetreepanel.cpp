@@ -214,22 +214,22 @@ void MessageTreePanel::createMenu()
     addSwitches();
     menu->addSeparator();
     addExpansionActions();
-    QMenu *rowMenu = menu->addMenu(tr("Curre&nt Row"));
+    QMenu *rowMenu = menu->addMenu(tr("Current Ro&w"));
     rowMenu->setToolTipsVisible(true);
     rowMenu->addActions(rowActions->getActions());
 }
 
-QAction *MessageTreePanel::addAction(const QString &text,
-                                     const QKeySequence &key,
-                                     const QString &toolTip,
-                                     Qt::ShortcutContext context)
+QAction *MessageTreePanel::addMenuAction(const QString &text,
+                                         const QKeySequence &key,
+                                         const QString &toolTip,
+                                         Qt::ShortcutContext context)
 {
     QAction *action = menu->addAction(text);
     action->setShortcut(key);
     action->setShortcutContext(context);
     action->setToolTip(
         QStringLiteral("%1 (%2)").arg(toolTip, key.toString(QKeySequence::NativeText)));
-    tree->QWidget::addAction(action);
+    tree->addAction(action);
     return action;
 }
 
@@ -237,7 +237,7 @@ void MessageTreePanel::addFindActions()
 {
     const auto add
         = [this](const QString &text, const QString &key, const QString &toolTip, auto slot) {
-              connect(addAction(text, key, toolTip, Qt::WindowShortcut), &QAction::triggered,
+              connect(addMenuAction(text, key, toolTip, Qt::WindowShortcut), &QAction::triggered,
                       findBar, slot);
           };
     add(tr("&Find…"), tr("Ctrl+F"), tr("Find a row by name, value or path"), &FindBar::open);
@@ -261,7 +261,7 @@ void MessageTreePanel::addSwitches()
     };
     add("units", tr("&Units"), tree->areUnitsShown(), tr("Show units beside numbers"), tree,
         &InspectorTree::setUnitsShown);
-    add("hexadecimal", tr("&Hexadecimal"), tree->isHexadecimalShown(),
+    add("hexadecimal", tr("He&xadecimal"), tree->isHexadecimalShown(),
         tr("Show integers in hexadecimal digits as well"), tree,
         &InspectorTree::setHexadecimalShown);
     menu->addSeparator();
@@ -279,8 +279,8 @@ void MessageTreePanel::addExpansionActions()
 {
     const auto add
         = [this](const QString &text, const QString &key, const QString &toolTip, bool expanded) {
-              connect(addAction(text, key, toolTip, Qt::WidgetShortcut), &QAction::triggered, tree,
-                      [this, expanded] { tree->setAllExpanded(expanded); });
+              connect(addMenuAction(text, key, toolTip, Qt::WidgetShortcut), &QAction::triggered,
+                      tree, [this, expanded] { tree->setAllExpanded(expanded); });
           };
     add(tr("&Expand All"), tr("Ctrl+Right"), tr("Expand all rows"), true);
     add(tr("C&ollapse All"), tr("Ctrl+Left"), tr("Collapse all rows"), false);

@@ -72,10 +72,10 @@ private:
     void addFindActions();
     void addSwitches();
     void addExpansionActions();
-    QAction *addAction(const QString &text,
-                       const QKeySequence &key,
-                       const QString &toolTip,
-                       Qt::ShortcutContext context);
+    QAction *addMenuAction(const QString &text,
+                           const QKeySequence &key,
+                           const QString &toolTip,
+                           Qt::ShortcutContext context);
     void addRow(const MessageInfo *type);
     void setAllTypesShown(bool shown);
     void removeEmptyRows();

@@ -29,6 +29,7 @@ FindBar::FindBar(InspectorTree &tree, const FormatInfo &format, QWidget *parent)
     connect(&finder, &TreeSearch::progressed, this, &FindBar::follow);
     connect(&tree, &QTreeWidget::itemExpanded, this, &FindBar::noteExpansion);
     connect(&tree, &QTreeWidget::itemCollapsed, this, &FindBar::noteExpansion);
+    connect(&tree, &InspectorTree::manyExpanded, this, [this] { expanded.clear(); });
     const auto noteChange = [this] { rowsChanged = true; };
     connect(tree.model(), &QAbstractItemModel::rowsInserted, this, noteChange);
     connect(tree.model(), &QAbstractItemModel::rowsRemoved, this, noteChange);
@@ -115,6 +116,8 @@ void FindBar::step(Wish direction)
         open();
         return search(direction);
     }
+    if (wish != Wish::None && finder.isRunning())
+        return; // on the way to a hit
     if (!current || (rowsChanged && !finder.isRunning()))
         return search(direction);
     const bool forwards = direction == Wish::Next;

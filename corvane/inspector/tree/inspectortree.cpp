@@ -109,9 +109,12 @@ bool InspectorTree::isInSight(const QTreeWidgetItem *row) const
 void InspectorTree::setExpandedBelow(QTreeWidgetItem *row, bool expanded)
 {
     scheduleDelayedItemsLayout(); // with a layout pending, no row does its own
-    const QSignalBlocker blocker(this);
-    setRowsExpanded(row, expanded);
+    {
+        const QSignalBlocker blocker(this);
+        setRowsExpanded(row, expanded);
+    }
     rememberExpansionBelow(row, expanded);
+    Q_EMIT manyExpanded();
 }
 
 void InspectorTree::setAllExpanded(bool expanded)
@@ -122,6 +125,7 @@ void InspectorTree::setAllExpanded(bool expanded)
         collapseAll();
     for (int i = 0; i < topLevelItemCount(); ++i)
         rememberExpansionBelow(topLevelItem(i), expanded);
+    Q_EMIT manyExpanded();
 }
 
 void InspectorTree::contextMenuEvent(QContextMenuEvent *event)
@@ -167,9 +171,9 @@ bool InspectorTree::showToolTip(const QPoint &position, const QPoint &globalPosi
         return false;
     QString text = sentences.join(QLatin1Char('\n')).toHtmlEscaped();
     text.replace(QLatin1Char('\n'), QStringLiteral("<br>"));
-    // As rich text it is wrapped.
-    QToolTip::showText(globalPosition, QStringLiteral("<p>%1</p>").arg(text), viewport(),
-                       visualItemRect(row));
+    // As rich text it is wrapped. Belonging to the viewport, it would keep the base from skipping
+    // layouts.
+    QToolTip::showText(globalPosition, QStringLiteral("<p>%1</p>").arg(text), this);
     return true;
 }
 

@@ -40,6 +40,9 @@ public:
 Q_SIGNALS:
     /** People want a menu for the current row, at \a globalPosition. */
     void menuRequested(const QPoint &globalPosition);
+    /** Many rows were expanded or collapsed at once, which the signals of single rows do not tell.
+     */
+    void manyExpanded();
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;

@@ -245,7 +245,7 @@ void tst_messagetreepanel::settings_areRemembered()
     shown.source.send("Position{}");
     shown.action("&Type")->trigger();
     shown.action("&Units")->trigger();
-    shown.action("&Hexadecimal")->trigger();
+    shown.action("He&xadecimal")->trigger();
     shown.tree()->topLevelItem(0)->child(3)->setExpanded(true);
     shown.panel.saveSettings(settings);
     MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();

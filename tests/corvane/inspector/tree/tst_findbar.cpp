@@ -366,6 +366,11 @@ void tst_findbar::whatPeopleExpandThemselves_stays()
     QVERIFY(shown.row(5)->isExpanded());
     QVERIFY(MessageTreeWidget::sFieldInfoExpandedCollapsedMap.value(
         shown.format.field("Position.sats")));
+    shown.find("200");
+    shown.tree()->setFocus();
+    QTest::keyClick(shown.tree(), Qt::Key_Right, Qt::ControlModifier); // all
+    QTest::keyClick(shown.tree(), Qt::Key_Escape);
+    QVERIFY(shown.row(4)->isExpanded());
 }
 
 void tst_findbar::absentSubMessages_areFoundByWhatTheyWouldHold()
