@@ -281,7 +281,9 @@ QString Options::getHelpText()
 {
     QCommandLineParser parser;
     describe(parser);
-    return parser.helpText();
+    // Help is printed before there is an application that would know the program's name.
+    return parser.helpText().replace(QStringLiteral("<executable_name>"),
+                                     QStringLiteral("corvane-inspector"));
 }
 
 bool Options::lacksDefinitions() const
