@@ -14,18 +14,18 @@ foreach(file IN LISTS FILES)
     string(APPEND arrays "constexpr unsigned char ${language}[] = {${bytes}};\n")
     string(APPEND entries "    {\"${language}\", ${language}, sizeof ${language}},\n")
 endforeach()
-file(WRITE ${OUTPUT} "#include \"translationdata.h\"
+file(WRITE ${OUTPUT} "#include \"embeddedtranslations.h\"
 
 namespace {
 
 ${arrays}
-constexpr corvane::TranslationData translations[] = {
+constexpr corvane::EmbeddedTranslation translations[] = {
 ${entries}    {nullptr, nullptr, 0},
 };
 
 } // namespace
 
-const corvane::TranslationData *corvane::translationData()
+const corvane::EmbeddedTranslation *corvane::embeddedTranslations()
 {
     return translations;
 }

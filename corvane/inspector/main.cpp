@@ -2,6 +2,7 @@
 #include "eventroundprobe.h"
 #include "exportcommand.h"
 #include "icons.h"
+#include "inspectortranslations.h"
 #include "noticearea.h"
 #include "options.h"
 #include "report.h"
@@ -114,7 +115,7 @@ int runWindow(const Options &options)
     corvane::Workbench workbench(options, settings.get());
     if (!options.source) {
         workbench.showOpenPanel();
-    } else if (options.definitions.isEmpty() && !corvane::bringsDefinitions(*options.source)) {
+    } else if (options.lacksDefinitions()) {
         workbench.askForDefinitions(options);
     } else {
         const QStringList errors = workbench.open(options);
@@ -158,6 +159,7 @@ int run(const Options &options)
         const QString error = corvane::runExport(options);
         return error.isEmpty() ? 0 : complain(error);
     }
+    corvane::installInspectorTranslations();
     return runWindow(options);
 }
 

@@ -18,6 +18,7 @@
 
 #include <QCompleter>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -98,6 +99,8 @@ public:
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Maximum);
         setMinimumHeight(1);
     }
+
+    bool hasHeightForWidth() const override { return false; }
 
     QSize sizeHint() const override { return {1, fontMetrics().lineSpacing() * 2}; }
 };
@@ -201,29 +204,32 @@ void MessageTreePanel::createMenu()
     menu->setToolTipsVisible(true);
     addFindActions();
     menu->addSeparator();
-    for (QAction *toggle : tree->getToggleColumnActions())
+    QList<QAction *> columns = tree->getToggleColumnActions();
+    for (QAction *toggle : std::as_const(columns))
         toggle->setToolTip(tr("Show or hide this column"));
-    menu->addActions(tree->getToggleColumnActions());
-    menu->addAction(history->getAction());
+    columns += history->getAction();
+    menu->addActions(columns);
+    tree->header()->addActions(columns);
+    tree->header()->setContextMenuPolicy(Qt::ActionsContextMenu);
     addSwitches();
     menu->addSeparator();
     addExpansionActions();
-    QMenu *rowMenu = menu->addMenu(tr("Curre&nt Row"));
+    QMenu *rowMenu = menu->addMenu(tr("Current Ro&w"));
     rowMenu->setToolTipsVisible(true);
     rowMenu->addActions(rowActions->getActions());
 }
 
-QAction *MessageTreePanel::addAction(const QString &text,
-                                     const QKeySequence &key,
-                                     const QString &toolTip,
-                                     Qt::ShortcutContext context)
+QAction *MessageTreePanel::addMenuAction(const QString &text,
+                                         const QKeySequence &key,
+                                         const QString &toolTip,
+                                         Qt::ShortcutContext context)
 {
     QAction *action = menu->addAction(text);
     action->setShortcut(key);
     action->setShortcutContext(context);
     action->setToolTip(
         QStringLiteral("%1 (%2)").arg(toolTip, key.toString(QKeySequence::NativeText)));
-    tree->QWidget::addAction(action);
+    tree->addAction(action);
     return action;
 }
 
@@ -231,7 +237,7 @@ void MessageTreePanel::addFindActions()
 {
     const auto add
         = [this](const QString &text, const QString &key, const QString &toolTip, auto slot) {
-              connect(addAction(text, key, toolTip, Qt::WindowShortcut), &QAction::triggered,
+              connect(addMenuAction(text, key, toolTip, Qt::WindowShortcut), &QAction::triggered,
                       findBar, slot);
           };
     add(tr("&Find…"), tr("Ctrl+F"), tr("Find a row by name, value or path"), &FindBar::open);
@@ -255,7 +261,7 @@ void MessageTreePanel::addSwitches()
     };
     add("units", tr("&Units"), tree->areUnitsShown(), tr("Show units beside numbers"), tree,
         &InspectorTree::setUnitsShown);
-    add("hexadecimal", tr("&Hexadecimal"), tree->isHexadecimalShown(),
+    add("hexadecimal", tr("He&xadecimal"), tree->isHexadecimalShown(),
         tr("Show integers in hexadecimal digits as well"), tree,
         &InspectorTree::setHexadecimalShown);
     menu->addSeparator();
@@ -273,8 +279,8 @@ void MessageTreePanel::addExpansionActions()
 {
     const auto add
         = [this](const QString &text, const QString &key, const QString &toolTip, bool expanded) {
-              connect(addAction(text, key, toolTip, Qt::WidgetShortcut), &QAction::triggered, tree,
-                      [this, expanded] { tree->setAllExpanded(expanded); });
+              connect(addMenuAction(text, key, toolTip, Qt::WidgetShortcut), &QAction::triggered,
+                      tree, [this, expanded] { tree->setAllExpanded(expanded); });
           };
     add(tr("&Expand All"), tr("Ctrl+Right"), tr("Expand all rows"), true);
     add(tr("C&ollapse All"), tr("Ctrl+Left"), tr("Collapse all rows"), false);
@@ -374,9 +380,16 @@ void MessageTreePanel::filterBy(const QString &text)
     filterEdit->setFocus(Qt::OtherFocusReason);
 }
 
+void MessageTreePanel::goTo(const RowPlace &place)
+{
+    if (QTreeWidgetItem *row = place.findRow(*tree))
+        tree->goTo(row);
+}
+
 void MessageTreePanel::refreshRowState()
 {
-    QString text = describeRow(tree->currentItem()).join(QStringLiteral("  ·  "));
+    QString text = SteadyTreeWidget::shortened(
+        describeRow(tree->currentItem()).join(QStringLiteral("  ·  ")));
     if (text.isEmpty() && tree->topLevelItemCount() > 0)
         text = tr("Choose a row to read about it here, and press the right mouse button or the "
                   "menu key for what can be done with it.");

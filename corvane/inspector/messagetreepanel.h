@@ -48,6 +48,9 @@ public:
     void restoreSettings(QSettings &settings);
     void saveSettings(QSettings &settings);
 
+    /** Makes the row of \a place the current one, as far as there is one. */
+    void goTo(const RowPlace &place);
+
     InspectorTree *getTree() const { return tree; }
 
     /** What can be done with the current row. */
@@ -69,10 +72,10 @@ private:
     void addFindActions();
     void addSwitches();
     void addExpansionActions();
-    QAction *addAction(const QString &text,
-                       const QKeySequence &key,
-                       const QString &toolTip,
-                       Qt::ShortcutContext context);
+    QAction *addMenuAction(const QString &text,
+                           const QKeySequence &key,
+                           const QString &toolTip,
+                           Qt::ShortcutContext context);
     void addRow(const MessageInfo *type);
     void setAllTypesShown(bool shown);
     void removeEmptyRows();

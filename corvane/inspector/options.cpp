@@ -221,8 +221,7 @@ private:
             complain(tr("--report needs a SOURCE to read; see --help."));
         // The window asks for what is missing.
         const bool asks = options.opensWindow() && !photographs;
-        if (options.source && options.definitions.isEmpty() && !asks
-            && !bringsDefinitions(*options.source))
+        if (options.lacksDefinitions() && !asks)
             complain(tr("Messages cannot be read without their definitions: name a MAVLink dialect "
                         "or Protocol Buffers files with --definitions FILE."));
         const bool isFile = options.source && options.source->kind == SourceAddress::Kind::File;
@@ -282,7 +281,14 @@ QString Options::getHelpText()
 {
     QCommandLineParser parser;
     describe(parser);
-    return parser.helpText();
+    // Help is printed before there is an application that would know the program's name.
+    return parser.helpText().replace(QStringLiteral("<executable_name>"),
+                                     QStringLiteral("corvane-inspector"));
+}
+
+bool Options::lacksDefinitions() const
+{
+    return source && definitions.isEmpty() && !bringsDefinitions(*source);
 }
 
 bool bringsDefinitions(const SourceAddress &source)

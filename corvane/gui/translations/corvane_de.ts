@@ -560,6 +560,59 @@ Zeitstempel wie die vorige empfangen wurde.</translation>
     </message>
 </context>
 <context>
+    <name>corvane::McapDecoder</name>
+    <message>
+        <source>%1 bytes of channel %2, at offset %3 of the file, are no message of type %4.</source>
+        <translation>%1 Byte von Kanal %2 an Position %3 der Datei sind keine Nachricht vom Typ %4.</translation>
+    </message>
+    <message>
+        <source>%1 (at offset %2)</source>
+        <translation>%1 (an Position %2)</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::McapDefinitions</name>
+    <message>
+        <source>Cannot be read: %1.</source>
+        <translation>Kann nicht gelesen werden: %1.</translation>
+    </message>
+    <message>
+        <source>This is no MCAP file, or one of another version.</source>
+        <translation>Das ist keine MCAP-Datei oder eine von anderer Version.</translation>
+    </message>
+    <message>
+        <source>The file contains no channels.</source>
+        <translation>Die Datei enthält keine Kanäle.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::McapFormat</name>
+    <message>
+        <source>Only one MCAP file can be loaded.</source>
+        <translation>Nur eine MCAP-Datei kann geladen werden.</translation>
+    </message>
+    <message>
+        <source>None of the channels has messages of Protocol Buffers.</source>
+        <translation>Keiner der Kanäle hat Nachrichten von Protocol Buffers.</translation>
+    </message>
+    <message>
+        <source>schema %1</source>
+        <translation>Schema %1</translation>
+    </message>
+    <message>
+        <source>The schema %1 does not define the message type of that name.</source>
+        <translation>Das Schema %1 definiert den Nachrichtentyp dieses Namens nicht.</translation>
+    </message>
+    <message>
+        <source>The message type %1 has too many parts to be shown.</source>
+        <translation>Der Nachrichtentyp %1 hat zu viele Teile, um gezeigt zu werden.</translation>
+    </message>
+    <message>
+        <source>channel %1</source>
+        <translation>Kanal %1</translation>
+    </message>
+</context>
+<context>
     <name>corvane::McapReader</name>
     <message>
         <source>A chunk is compressed with &quot;%1&quot;, which is not known.</source>

@@ -560,6 +560,59 @@ con la misma marca de tiempo que el anterior.</translation>
     </message>
 </context>
 <context>
+    <name>corvane::McapDecoder</name>
+    <message>
+        <source>%1 bytes of channel %2, at offset %3 of the file, are no message of type %4.</source>
+        <translation>%1 bytes del canal %2, en la posición %3 del archivo, no son un mensaje de tipo %4.</translation>
+    </message>
+    <message>
+        <source>%1 (at offset %2)</source>
+        <translation>%1 (en la posición %2)</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::McapDefinitions</name>
+    <message>
+        <source>Cannot be read: %1.</source>
+        <translation>No se puede leer: %1.</translation>
+    </message>
+    <message>
+        <source>This is no MCAP file, or one of another version.</source>
+        <translation>No es un archivo MCAP, o es de otra versión.</translation>
+    </message>
+    <message>
+        <source>The file contains no channels.</source>
+        <translation>El archivo no contiene canales.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::McapFormat</name>
+    <message>
+        <source>Only one MCAP file can be loaded.</source>
+        <translation>Solo se puede cargar un archivo MCAP.</translation>
+    </message>
+    <message>
+        <source>None of the channels has messages of Protocol Buffers.</source>
+        <translation>Ningún canal tiene mensajes de Protocol Buffers.</translation>
+    </message>
+    <message>
+        <source>schema %1</source>
+        <translation>esquema %1</translation>
+    </message>
+    <message>
+        <source>The schema %1 does not define the message type of that name.</source>
+        <translation>El esquema %1 no define el tipo de mensaje de ese nombre.</translation>
+    </message>
+    <message>
+        <source>The message type %1 has too many parts to be shown.</source>
+        <translation>El tipo de mensaje %1 tiene demasiadas partes para mostrarse.</translation>
+    </message>
+    <message>
+        <source>channel %1</source>
+        <translation>canal %1</translation>
+    </message>
+</context>
+<context>
     <name>corvane::McapReader</name>
     <message>
         <source>A chunk is compressed with &quot;%1&quot;, which is not known.</source>

@@ -560,6 +560,59 @@ avec le même horodatage que le précédent.</translation>
     </message>
 </context>
 <context>
+    <name>corvane::McapDecoder</name>
+    <message>
+        <source>%1 bytes of channel %2, at offset %3 of the file, are no message of type %4.</source>
+        <translation>%1 octets du canal %2, à la position %3 du fichier, ne forment pas un message de type %4.</translation>
+    </message>
+    <message>
+        <source>%1 (at offset %2)</source>
+        <translation>%1 (à la position %2)</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::McapDefinitions</name>
+    <message>
+        <source>Cannot be read: %1.</source>
+        <translation>Impossible à lire&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>This is no MCAP file, or one of another version.</source>
+        <translation>Ce n’est pas un fichier MCAP, ou il est d’une autre version.</translation>
+    </message>
+    <message>
+        <source>The file contains no channels.</source>
+        <translation>Le fichier ne contient aucun canal.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::McapFormat</name>
+    <message>
+        <source>Only one MCAP file can be loaded.</source>
+        <translation>Un seul fichier MCAP peut être chargé.</translation>
+    </message>
+    <message>
+        <source>None of the channels has messages of Protocol Buffers.</source>
+        <translation>Aucun canal n’a de messages Protocol Buffers.</translation>
+    </message>
+    <message>
+        <source>schema %1</source>
+        <translation>schéma %1</translation>
+    </message>
+    <message>
+        <source>The schema %1 does not define the message type of that name.</source>
+        <translation>Le schéma %1 ne définit pas le type de message de ce nom.</translation>
+    </message>
+    <message>
+        <source>The message type %1 has too many parts to be shown.</source>
+        <translation>Le type de message %1 a trop de parties pour être affiché.</translation>
+    </message>
+    <message>
+        <source>channel %1</source>
+        <translation>canal %1</translation>
+    </message>
+</context>
+<context>
     <name>corvane::McapReader</name>
     <message>
         <source>A chunk is compressed with &quot;%1&quot;, which is not known.</source>

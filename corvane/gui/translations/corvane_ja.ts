@@ -559,6 +559,59 @@ with the same time stamp as previous.</source>
     </message>
 </context>
 <context>
+    <name>corvane::McapDecoder</name>
+    <message>
+        <source>%1 bytes of channel %2, at offset %3 of the file, are no message of type %4.</source>
+        <translation>ファイルの位置 %3 にあるチャンネル %2 の %1 バイトは、型 %4 のメッセージではありません。</translation>
+    </message>
+    <message>
+        <source>%1 (at offset %2)</source>
+        <translation>%1（位置 %2）</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::McapDefinitions</name>
+    <message>
+        <source>Cannot be read: %1.</source>
+        <translation>読めません: %1。</translation>
+    </message>
+    <message>
+        <source>This is no MCAP file, or one of another version.</source>
+        <translation>MCAP ファイルではないか、別のバージョンのものです。</translation>
+    </message>
+    <message>
+        <source>The file contains no channels.</source>
+        <translation>ファイルにチャンネルがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::McapFormat</name>
+    <message>
+        <source>Only one MCAP file can be loaded.</source>
+        <translation>読み込める MCAP ファイルは一つだけです。</translation>
+    </message>
+    <message>
+        <source>None of the channels has messages of Protocol Buffers.</source>
+        <translation>Protocol Buffers のメッセージを持つチャンネルがありません。</translation>
+    </message>
+    <message>
+        <source>schema %1</source>
+        <translation>スキーマ %1</translation>
+    </message>
+    <message>
+        <source>The schema %1 does not define the message type of that name.</source>
+        <translation>スキーマ %1 はその名前のメッセージ型を定義していません。</translation>
+    </message>
+    <message>
+        <source>The message type %1 has too many parts to be shown.</source>
+        <translation>メッセージ型 %1 は部分が多すぎて表示できません。</translation>
+    </message>
+    <message>
+        <source>channel %1</source>
+        <translation>チャンネル %1</translation>
+    </message>
+</context>
+<context>
     <name>corvane::McapReader</name>
     <message>
         <source>A chunk is compressed with &quot;%1&quot;, which is not known.</source>

@@ -557,6 +557,59 @@ with the same time stamp as previous.</source>
     </message>
 </context>
 <context>
+    <name>corvane::McapDecoder</name>
+    <message>
+        <source>%1 bytes of channel %2, at offset %3 of the file, are no message of type %4.</source>
+        <translation>通道 %2 在文件位置 %3 处的 %1 字节不是类型 %4 的消息。</translation>
+    </message>
+    <message>
+        <source>%1 (at offset %2)</source>
+        <translation>%1（位置 %2）</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::McapDefinitions</name>
+    <message>
+        <source>Cannot be read: %1.</source>
+        <translation>无法读取：%1。</translation>
+    </message>
+    <message>
+        <source>This is no MCAP file, or one of another version.</source>
+        <translation>这不是 MCAP 文件，或者是其他版本。</translation>
+    </message>
+    <message>
+        <source>The file contains no channels.</source>
+        <translation>文件不包含通道。</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::McapFormat</name>
+    <message>
+        <source>Only one MCAP file can be loaded.</source>
+        <translation>只能加载一个 MCAP 文件。</translation>
+    </message>
+    <message>
+        <source>None of the channels has messages of Protocol Buffers.</source>
+        <translation>没有通道含有 Protocol Buffers 消息。</translation>
+    </message>
+    <message>
+        <source>schema %1</source>
+        <translation>架构 %1</translation>
+    </message>
+    <message>
+        <source>The schema %1 does not define the message type of that name.</source>
+        <translation>架构 %1 未定义该名称的消息类型。</translation>
+    </message>
+    <message>
+        <source>The message type %1 has too many parts to be shown.</source>
+        <translation>消息类型 %1 的组成部分过多，无法显示。</translation>
+    </message>
+    <message>
+        <source>channel %1</source>
+        <translation>通道 %1</translation>
+    </message>
+</context>
+<context>
     <name>corvane::McapReader</name>
     <message>
         <source>A chunk is compressed with &quot;%1&quot;, which is not known.</source>

@@ -21,7 +21,8 @@ BytesPanel::BytesPanel(MessageSource &messages, QWidget *parent)
     , selection(new QLabel(this))
 {
     view->setAccessibleName(tr("Bytes of the message"));
-    view->setToolTip(tr("Arrow keys move, with Shift they select; Ctrl+C copies as hexadecimal"));
+    view->setToolTip(tr("Arrow keys move, with Shift they select; Ctrl+C copies as hexadecimal; "
+                        "Enter or a double click goes to the field of a byte"));
     heading->setTextFormat(Qt::PlainText);
     heading->setWordWrap(true);
     selection->setTextFormat(Qt::PlainText);
@@ -33,6 +34,7 @@ BytesPanel::BytesPanel(MessageSource &messages, QWidget *parent)
     connect(Corvane::getInstance(), &Corvane::confidentialInformationDisplayChanged, this,
             &BytesPanel::refresh);
     connect(view, &HexView::selectionChanged, this, &BytesPanel::refreshSelection);
+    connect(view, &HexView::activated, this, &BytesPanel::activate);
     refresh();
 }
 
@@ -144,8 +146,18 @@ void BytesPanel::refreshSelection()
         text = tr("Offset %1 (0x%2)").arg(QString::number(range.offset), digits);
     if (range.length > 1)
         text += tr(", %1 bytes").arg(range.length);
+    const auto owner = message != nullptr ? findPlaceOfByte(message, range.offset) : std::nullopt;
+    if (owner)
+        text += tr(", in %1").arg(owner->getField()->getName());
     selection->setText(text);
     view->setAccessibleDescription(text + QStringLiteral(": ") + view->getSelectedText().left(200));
+}
+
+void BytesPanel::activate(int byte)
+{
+    const auto owner = findPlaceOfByte(message, static_cast<quint32>(byte));
+    if (owner)
+        Q_EMIT placeActivated(*owner);
 }
 
 } // namespace corvane

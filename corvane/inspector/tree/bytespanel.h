@@ -31,6 +31,10 @@ public:
     /** The same for a whole message; nothing changes if a place in one of that type is shown. */
     void setType(const MessageInfo *type, const Message *message);
 
+Q_SIGNALS:
+    /** People want to see the field that a byte belongs to. */
+    void placeActivated(const RowPlace &place);
+
 protected:
     /** While it cannot be seen, the panel only remembers what to show. */
     void showEvent(QShowEvent *event) override;
@@ -40,6 +44,7 @@ private:
     void setMessage(const Message *newMessage);
     void refresh();
     void refreshSelection();
+    void activate(int byte);
     QString getHeading() const;
     QString getPlaceText() const;
 

@@ -29,6 +29,7 @@ FindBar::FindBar(InspectorTree &tree, const FormatInfo &format, QWidget *parent)
     connect(&finder, &TreeSearch::progressed, this, &FindBar::follow);
     connect(&tree, &QTreeWidget::itemExpanded, this, &FindBar::noteExpansion);
     connect(&tree, &QTreeWidget::itemCollapsed, this, &FindBar::noteExpansion);
+    connect(&tree, &InspectorTree::manyExpanded, this, [this] { expanded.clear(); });
     const auto noteChange = [this] { rowsChanged = true; };
     connect(tree.model(), &QAbstractItemModel::rowsInserted, this, noteChange);
     connect(tree.model(), &QAbstractItemModel::rowsRemoved, this, noteChange);
@@ -115,6 +116,8 @@ void FindBar::step(Wish direction)
         open();
         return search(direction);
     }
+    if (wish != Wish::None && finder.isRunning())
+        return; // on the way to a hit
     if (!current || (rowsChanged && !finder.isRunning()))
         return search(direction);
     const bool forwards = direction == Wish::Next;
@@ -169,12 +172,7 @@ void FindBar::goTo(size_t hit)
         return search(Wish::Next); // gone since it was found
     current = hit;
     expandTo(row);
-    // With what stands around it, where it was out of sight.
-    const QRect area = tree.viewport()->rect();
-    const bool isInSight = area.contains(tree.visualItemRect(row).center());
-    tree.setCurrentItem(row);
-    tree.scrollToItem(row, isInSight ? QAbstractItemView::EnsureVisible
-                                     : QAbstractItemView::PositionAtCenter);
+    tree.goTo(row);
     refreshState();
 }
 
@@ -221,7 +219,7 @@ void FindBar::collapseAgain()
     }
     expanded.clear();
     if (shown != tree.currentItem())
-        tree.setCurrentItem(shown);
+        tree.goTo(shown);
 }
 
 /** What people expand or collapse themselves stays as they leave it. */

@@ -214,6 +214,8 @@ void HexView::keyPressEvent(QKeyEvent *event)
         return copy();
     if (event->matches(QKeySequence::SelectAll))
         return selectAll();
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !bytes.isEmpty())
+        return Q_EMIT activated(cursor);
     const int moved = getMovedCursor(*event);
     if (moved == cursor && (event->key() < Qt::Key_Home || event->key() > Qt::Key_PageDown))
         return QAbstractScrollArea::keyPressEvent(event);
@@ -273,6 +275,13 @@ void HexView::mouseMoveEvent(QMouseEvent *event)
 {
     if (event->buttons().testFlag(Qt::LeftButton))
         moveCursor(getByteAt(event->position().toPoint()), true);
+}
+
+void HexView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->accept(); // the first click has moved the cursor
+    if (event->button() == Qt::LeftButton && !bytes.isEmpty())
+        Q_EMIT activated(cursor);
 }
 
 void HexView::mouseReleaseEvent(QMouseEvent *event)

@@ -42,6 +42,8 @@ public:
 
 Q_SIGNALS:
     void selectionChanged();
+    /** People pressed Enter at a byte, or clicked it twice. */
+    void activated(int byte);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -49,6 +51,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;

@@ -81,12 +81,40 @@ QString InspectorTree::getAnnotation(const QTreeWidgetItem *row) const
     return parts.join(QStringLiteral("  "));
 }
 
+void InspectorTree::goTo(QTreeWidgetItem *row)
+{
+    const bool wasInSight = isInSight(row);
+    // The view asks where the old and the new row are, to paint these alone. It would measure all
+    // rows between them; this way it only counts them, and is painted as a whole.
+    const bool scrollsByItself = hasAutoScroll();
+    setAutoScroll(false);
+    setUniformRowHeights(true);
+    setCurrentItem(row);
+    setUniformRowHeights(false);
+    setAutoScroll(scrollsByItself);
+    viewport()->update();
+    scrollToItem(row, wasInSight ? EnsureVisible : PositionAtCenter);
+}
+
+bool InspectorTree::isInSight(const QTreeWidgetItem *row) const
+{
+    const int bottom = viewport()->height();
+    for (const QTreeWidgetItem *seen = itemAt(0, 0);
+         seen != nullptr && visualItemRect(seen).bottom() <= bottom; seen = itemBelow(seen))
+        if (seen == row)
+            return true;
+    return false;
+}
+
 void InspectorTree::setExpandedBelow(QTreeWidgetItem *row, bool expanded)
 {
     scheduleDelayedItemsLayout(); // with a layout pending, no row does its own
-    const QSignalBlocker blocker(this);
-    setRowsExpanded(row, expanded);
+    {
+        const QSignalBlocker blocker(this);
+        setRowsExpanded(row, expanded);
+    }
     rememberExpansionBelow(row, expanded);
+    Q_EMIT manyExpanded();
 }
 
 void InspectorTree::setAllExpanded(bool expanded)
@@ -97,12 +125,14 @@ void InspectorTree::setAllExpanded(bool expanded)
         collapseAll();
     for (int i = 0; i < topLevelItemCount(); ++i)
         rememberExpansionBelow(topLevelItem(i), expanded);
+    Q_EMIT manyExpanded();
 }
 
 void InspectorTree::contextMenuEvent(QContextMenuEvent *event)
 {
-    const QTreeWidgetItem *row = currentItem();
+    QTreeWidgetItem *row = currentItem();
     if (event->reason() == QContextMenuEvent::Keyboard && row != nullptr) {
+        goTo(row);
         const QRect area = visualItemRect(row).intersected(viewport()->rect());
         Q_EMIT menuRequested(viewport()->mapToGlobal(area.center()));
     } else {
@@ -141,9 +171,9 @@ bool InspectorTree::showToolTip(const QPoint &position, const QPoint &globalPosi
         return false;
     QString text = sentences.join(QLatin1Char('\n')).toHtmlEscaped();
     text.replace(QLatin1Char('\n'), QStringLiteral("<br>"));
-    // As rich text it is wrapped.
-    QToolTip::showText(globalPosition, QStringLiteral("<p>%1</p>").arg(text), viewport(),
-                       visualItemRect(row));
+    // As rich text it is wrapped. Belonging to the viewport, it would keep the base from skipping
+    // layouts.
+    QToolTip::showText(globalPosition, QStringLiteral("<p>%1</p>").arg(text), this);
     return true;
 }
 
@@ -161,7 +191,7 @@ void InspectorTree::drawRow(QPainter *painter,
         return;
     QRect area = visualRect(index.siblingAtColumn(column));
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
-    const int taken = margin + fontMetrics().horizontalAdvance(row->text(column))
+    const int taken = margin + fontMetrics().horizontalAdvance(shortened(row->text(column)))
                       + fontMetrics().averageCharWidth();
     if (layoutDirection() == Qt::RightToLeft)
         area.adjust(margin, 0, -taken, 0);

@@ -27,6 +27,11 @@ public:
     void setEmptyText(const QString &text);
     /** What stands beside the value of \a row, such as "m  0x2A"; empty for most rows. */
     QString getAnnotation(const QTreeWidgetItem *row) const;
+    /**
+     * Makes \a row the current one and brings it into sight, with what stands around it where it
+     * was out of sight. The rows above it are expanded. Takes no longer the farther it is.
+     */
+    void goTo(QTreeWidgetItem *row);
     /** Expands or collapses \a row and all below, and remembers it, for elements to come too. */
     void setExpandedBelow(QTreeWidgetItem *row, bool expanded);
     /** The same for all rows. Takes one layout, however many there are. */
@@ -35,6 +40,9 @@ public:
 Q_SIGNALS:
     /** People want a menu for the current row, at \a globalPosition. */
     void menuRequested(const QPoint &globalPosition);
+    /** Many rows were expanded or collapsed at once, which the signals of single rows do not tell.
+     */
+    void manyExpanded();
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -45,6 +53,7 @@ protected:
                  const QModelIndex &index) const override;
 
 private:
+    bool isInSight(const QTreeWidgetItem *row) const;
     bool showToolTip(const QPoint &position, const QPoint &globalPosition);
 
     QString emptyText;

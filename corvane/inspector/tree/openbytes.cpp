@@ -5,7 +5,6 @@
 #include "descriptions.h"
 #include "formatinfo.h"
 #include "messageinfo.h"
-#include "rowplace.h"
 
 #include <QSet>
 
@@ -111,6 +110,26 @@ std::vector<ByteRange> findByteRanges(const RowPlace &place, const Message *mess
                                  &range.length))
         ranges.push_back(range);
     return ranges;
+}
+
+std::optional<RowPlace> findPlaceOfByte(const Message *message, quint32 offset)
+{
+    for (const FieldInfo *field : message->getInfo()->getFieldInfos()) {
+        // Bits share the bytes of their word.
+        if (field->getParentFieldInfo() != nullptr
+            || (field->isConfidential() && !Corvane::confidentialInformationDisplayEnabled()))
+            continue;
+        const unsigned int count = field->getNumberOfValues(message);
+        for (unsigned int index = 0; index < count; ++index) {
+            ByteRange range;
+            if (!field->getByteRange(message, index, &range.offset, &range.length)
+                || offset < range.offset || offset - range.offset >= range.length)
+                continue;
+            const bool isList = field->isRepeated() && !field->isStringField();
+            return RowPlace{message->getInfo(), {{field, isList ? static_cast<int>(index) : -1}}};
+        }
+    }
+    return std::nullopt;
 }
 
 bool knowsByteRanges(const Message *message)

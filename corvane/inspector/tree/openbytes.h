@@ -1,16 +1,15 @@
 #pragma once
 
+#include "rowplace.h"
+
 #include <QtGlobal>
 
+#include <optional>
 #include <vector>
-
-class FieldInfo;
-class Message;
 
 namespace corvane {
 
 class DecodedMessage;
-struct RowPlace;
 
 /** Bytes of a message that belong together. */
 struct ByteRange
@@ -30,6 +29,9 @@ std::vector<bool> findOpenBytes(const DecodedMessage &message);
 
 /** Where the field, or element, of \a place lies in \a message; empty where it is not known. */
 std::vector<ByteRange> findByteRanges(const RowPlace &place, const Message *message);
+
+/** The field, and the element of it, that the byte at \a offset of \a message belongs to. */
+std::optional<RowPlace> findPlaceOfByte(const Message *message, quint32 offset);
 
 /** Whether the format of \a message tells where fields lie. */
 bool knowsByteRanges(const Message *message);

@@ -101,9 +101,9 @@ QStringList describeRow(QTreeWidgetItem *row)
     QStringList sentences{place->getPath()};
     if (field != nullptr)
         sentences += kindOf(field);
-    sentences += field != nullptr ? field->getData()->description
-                                  : place->type->getShortDescriptiveText();
     sentences += stateOf(*place, messageTreeRow);
+    sentences += field != nullptr ? firstSentence(field->getData()->description)
+                                  : place->type->getShortDescriptiveText();
     sentences.removeAll(QString());
     return sentences;
 }

@@ -8,7 +8,7 @@ namespace corvane {
 
 /**
  * What is to be said of a row of a message tree beside its texts, a sentence each: its path, type
- * and unit, what it is for, and in words what is absent, hidden, filtered out or cut.
+ * and unit, in words what is absent, hidden, filtered out or cut, and what it is for.
  */
 QStringList describeRow(QTreeWidgetItem *row);
 

@@ -3,6 +3,7 @@
 #include "exportbar.h"
 #include "exportcontroller.h"
 #include "fieldvaluelabel.h"
+#include "hexview.h"
 #include "inspectortree.h"
 #include "mainwindow.h"
 #include "messagetreepanel.h"
@@ -260,6 +261,14 @@ void tst_mainwindow::bytes_followWhatIsChosen()
     shown.chooseRow("satellites");
     QVERIFY(shown.says("satellites: offset "));
     QCOMPARE(shown.types()->currentIndex(), shown.indexOf("POSITION"));
+    const auto *tree = shown.window->findChild<InspectorTree *>();
+    const QTreeWidgetItem *satellites = tree->currentItem();
+    shown.chooseRow("accuracy");
+    auto *view = shown.window->findChild<HexView *>();
+    QTest::keyClick(view, Qt::Key_Right);
+    QTest::keyClick(view, Qt::Key_Right);
+    QTest::keyClick(view, Qt::Key_Return);
+    QCOMPARE(tree->currentItem(), satellites); // which lies behind
 }
 
 void tst_mainwindow::exportedStatistics_areToldAboveTheViews()

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void filter_isOfferedForElementsWithoutNamesToo();
     void emptyTree_saysWhatWouldFillIt();
     void currentRow_isDescribedBelow();
+    void longDescription_leavesTheRowsTheirRoom();
     void currentRow_announcesItsType();
     void settings_areRemembered();
     void destructor_forgetsWhatWillBeGone();
@@ -206,6 +207,23 @@ void tst_messagetreepanel::currentRow_isDescribedBelow()
     QTRY_VERIFY(says("Demo.Position.sats  ·  list of Satellite"));
 }
 
+void tst_messagetreepanel::longDescription_leavesTheRowsTheirRoom()
+{
+    const QString words = QString("word ").repeated(25);
+    const TestFormat format("Long", QString("A\n  %1 int8 '%2'\n").arg(QString(60, 'x'), words));
+    TestSource source(format);
+    const corvane::LatestMessages latest(source);
+    corvane::MessageTreePanel panel(latest, *format.getInfo());
+    source.send("A{}");
+    panel.resize(300, 400);
+    panel.show();
+    const int before = panel.getTree()->height();
+    panel.getTree()->setCurrentItem(panel.getTree()->topLevelItem(0)->child(0));
+    QCoreApplication::processEvents();
+    QCOMPARE(panel.getTree()->height(), before);
+    QVERIFY(before > 200);
+}
+
 void tst_messagetreepanel::currentRow_announcesItsType()
 {
     Shown shown;
@@ -227,7 +245,7 @@ void tst_messagetreepanel::settings_areRemembered()
     shown.source.send("Position{}");
     shown.action("&Type")->trigger();
     shown.action("&Units")->trigger();
-    shown.action("&Hexadecimal")->trigger();
+    shown.action("He&xadecimal")->trigger();
     shown.tree()->topLevelItem(0)->child(3)->setExpanded(true);
     shown.panel.saveSettings(settings);
     MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();

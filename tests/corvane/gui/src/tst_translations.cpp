@@ -9,54 +9,22 @@
 #include "pathexpressionlineedit.h"
 #include "pathexpressionlistwidget.h"
 #include "testcase.h"
+#include "translationtexts.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDataStream>
 #include <QDir>
-#include <QFile>
 #include <QLocale>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTranslator>
-#include <QXmlStreamReader>
 
 #include <cstdio>
 
 using namespace corvane::test;
 
 namespace {
-
-/** "context|text" to what is shown. */
-using Texts = QMap<QString, QString>;
-
-/** The texts of a .ts file; those without a finished translation are empty. */
-Texts readTexts(const QString &path)
-{
-    Texts texts;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return texts;
-    QXmlStreamReader xml(&file);
-    QString context;
-    QString source;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        if (!xml.isStartElement())
-            continue;
-        if (xml.name() == QStringLiteral("name"))
-            context = xml.readElementText();
-        if (xml.name() == QStringLiteral("source"))
-            source = xml.readElementText();
-        if (xml.name() == QStringLiteral("translation")) {
-            const bool isDone = xml.attributes().value(QStringLiteral("type")).isEmpty();
-            const QString text = xml.readElementText();
-            texts.insert(context + '|' + source, isDone ? text : QString());
-        }
-    }
-    return texts;
-}
 
 QString translationFile(const QString &language)
 {
@@ -72,20 +40,10 @@ QStringList languages()
     return result;
 }
 
-QStringList placeholders(const QString &text)
+/** What the widgets show without anything to show, as the keys of TranslationTexts have it. */
+TranslationTexts shownTexts()
 {
-    static const QRegularExpression pattern(QStringLiteral("%\\d"));
-    QStringList result;
-    for (auto match = pattern.globalMatch(text); match.hasNext();)
-        result += match.next().captured();
-    result.sort();
-    return result;
-}
-
-/** What the widgets show without anything to show, as the keys of Texts have it. */
-Texts shownTexts()
-{
-    Texts shown;
+    TranslationTexts shown;
     const FieldValueLabel label;
     shown["FieldValueLabel|N/A"] = label.text();
     const MessageWidget form;
@@ -112,18 +70,6 @@ Texts shownTexts()
     return shown;
 }
 
-/** Every text of the file as the running program has it. */
-Texts translatedTexts(const Texts &texts)
-{
-    Texts result;
-    for (const QString &key : texts.keys()) {
-        const QByteArray context = key.section('|', 0, 0).toUtf8();
-        const QByteArray source = key.section('|', 1).toUtf8();
-        result.insert(key, QCoreApplication::translate(context, source));
-    }
-    return result;
-}
-
 /** The program runs itself for each language, since a process shows one. */
 int showLanguage(const QString &language, bool hostHasItsOwn)
 {
@@ -141,8 +87,8 @@ int showLanguage(const QString &language, bool hostHasItsOwn)
     if (hostHasItsOwn)
         QCoreApplication::installTranslator(&translator);
     QLocale::setDefault(QLocale(language));
-    Texts texts = shownTexts();
-    texts.insert(translatedTexts(readTexts(translationFile(language))));
+    TranslationTexts texts = shownTexts();
+    texts.insert(translated(readTranslations(translationFile(language))));
     QByteArray output;
     QDataStream stream(&output, QIODevice::WriteOnly);
     stream << texts;
@@ -153,11 +99,12 @@ int showLanguage(const QString &language, bool hostHasItsOwn)
                : 1;
 }
 
-Texts textsShownIn(const QString &language, const QString &option = QStringLiteral("--show"))
+TranslationTexts textsShownIn(const QString &language,
+                              const QString &option = QStringLiteral("--show"))
 {
     QProcess program;
     program.start(QCoreApplication::applicationFilePath(), {option, language});
-    Texts texts;
+    TranslationTexts texts;
     if (!program.waitForFinished() || program.exitCode() != 0)
         return texts;
     QDataStream stream(program.readAllStandardOutput());
@@ -208,18 +155,18 @@ void TestTranslations::haveTheTextsOfTheSources()
     QVERIFY(lupdate.waitForFinished(120'000));
     QCOMPARE(lupdate.exitCode(), 0);
 
-    const QStringList texts = readTexts(found).keys();
+    const QStringList texts = readTranslations(found).keys();
     QVERIFY(texts.size() > 200);
     for (const QString &text : texts)
         QVERIFY2(!text.startsWith(QStringLiteral("corvane|")), qPrintable(text)); // a namespace
     for (const QString &language : languages())
-        QCOMPARE(readTexts(translationFile(language)).keys(), texts);
+        QCOMPARE(readTranslations(translationFile(language)).keys(), texts);
 }
 
 void TestTranslations::areComplete()
 {
     QFETCH(QString, language);
-    const Texts texts = readTexts(translationFile(language));
+    const TranslationTexts texts = readTranslations(translationFile(language));
     for (auto text = texts.begin(); text != texts.end(); ++text) {
         const QString source = text.key().section('|', 1);
         QVERIFY2(!text.value().isEmpty(), qPrintable(text.key()));
@@ -231,8 +178,8 @@ void TestTranslations::areComplete()
 void TestTranslations::areShown()
 {
     QFETCH(QString, language);
-    const Texts expected = readTexts(translationFile(language));
-    const Texts shown = textsShownIn(language);
+    const TranslationTexts expected = readTranslations(translationFile(language));
+    const TranslationTexts shown = textsShownIn(language);
     QCOMPARE(shown.size(), expected.size());
     for (auto text = expected.begin(); text != expected.end(); ++text)
         QCOMPARE(shown.value(text.key()), text.value());
@@ -249,14 +196,15 @@ void TestTranslations::areNotShownToReadersOfOtherLanguages_data()
 void TestTranslations::areNotShownToReadersOfOtherLanguages()
 {
     QFETCH(QString, language);
-    const Texts shown = textsShownIn(language);
+    const TranslationTexts shown = textsShownIn(language);
     QCOMPARE(shown.value("FieldValueLabel|N/A"), "N/A");
     QCOMPARE(shown.value("MessageTreeWidget|&Type"), "&Type");
 }
 
 void TestTranslations::giveWayToTheHosts()
 {
-    const Texts shown = textsShownIn(QStringLiteral("de"), QStringLiteral("--show-with-host"));
+    const TranslationTexts shown
+        = textsShownIn(QStringLiteral("de"), QStringLiteral("--show-with-host"));
     QCOMPARE(shown.value("FieldValueLabel|N/A"), "host");
     QCOMPARE(shown.value("MessageTreeWidget|Value"), "Wert");
 }

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void message_isShownWithTheFieldMarked();
     void newMessages_areFollowed();
     void type_replacesThePlaceInAnother();
+    void byte_tellsItsFieldAndGoesThere();
     void hiddenPanel_catchesUpWhenShown();
     void confidentialFields_areMasked();
     void confidentialBits_maskTheirWord();
@@ -174,6 +175,28 @@ void tst_bytespanel::type_replacesThePlaceInAnother()
     shown.panel.setPlace(std::nullopt, nullptr);
 }
 
+void tst_bytespanel::byte_tellsItsFieldAndGoesThere()
+{
+    Shown shown;
+    const FrameMessage message = shown.message(payload);
+    shown.panel.setPlace(shown.place(), message.get());
+    const QLabel *selection = shown.panel.findChildren<QLabel *>().constLast();
+    QStringList paths;
+    connect(&shown.panel, &BytesPanel::placeActivated, this,
+            [&](const RowPlace &place) { paths += place.getPath(); });
+    QTest::keyClick(shown.view(), Qt::Key_Return); // of the header
+    QCOMPARE(selection->text(), "Offset 0 (0x0)");
+    for (int i = 0; i < headerSize + 5; ++i)
+        QTest::keyClick(shown.view(), Qt::Key_Right);
+    QCOMPARE(selection->text(), "Offset 15 (0xF), in word");
+    QTest::keyClick(shown.view(), Qt::Key_Return);
+    QTest::keyClick(shown.view(), Qt::Key_Right);
+    QTest::keyClick(shown.view(), Qt::Key_Right, Qt::ShiftModifier);
+    QCOMPARE(selection->text(), "Offset 16 (0x10), 2 bytes, in list");
+    QTest::keyClick(shown.view(), Qt::Key_Return);
+    QCOMPARE(paths, QStringList({"MAVLink.STATE.word", "MAVLink.STATE.list[1]"}));
+}
+
 void tst_bytespanel::hiddenPanel_catchesUpWhenShown()
 {
     Shown shown;
@@ -199,9 +222,11 @@ void tst_bytespanel::confidentialFields_areMasked()
     // From a checksum and all bytes but one, that one could be told.
     QCOMPARE(digits.mid(headerSize + 9), QStringList({dots, dots}));
     QVERIFY(shown.heading().contains("Masked"));
+    QVERIFY(!findPlaceOfByte(message.get(), headerSize));
     Corvane::setConfidentialInformationDisplayEnabled(true);
     QVERIFY(!shown.view()->getRowText(0).contains(dots));
     QVERIFY(!shown.heading().contains("Masked"));
+    QVERIFY(findPlaceOfByte(message.get(), headerSize));
 }
 
 void tst_bytespanel::confidentialBits_maskTheirWord()

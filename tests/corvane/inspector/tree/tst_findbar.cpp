@@ -7,7 +7,6 @@
 #include "testsource.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -17,6 +16,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <ctime>
 
 using namespace corvane;
 using namespace corvane::test;
@@ -42,6 +42,7 @@ private Q_SLOTS:
     void collapsedRows_areExpandedTo();
     void escape_restoresExpansionAndMemory();
     void settingsWrittenMeanwhile_knowNothingOfIt();
+    void escapeInTheTree_closesToo();
     void whatPeopleExpandThemselves_stays();
     void absentSubMessages_areFoundByWhatTheyWouldHold();
     void emptyLists_areFoundByWhatTheyWouldHold();
@@ -345,6 +346,16 @@ void tst_findbar::settingsWrittenMeanwhile_knowNothingOfIt()
     QVERIFY(shown.row(5)->isExpanded());
 }
 
+void tst_findbar::escapeInTheTree_closesToo()
+{
+    Shown shown;
+    shown.find("lost");
+    shown.tree()->setFocus();
+    QTest::keyClick(shown.tree(), Qt::Key_Escape);
+    QVERIFY(!shown.bar()->isVisible());
+    QVERIFY(!shown.row(5)->isExpanded());
+}
+
 void tst_findbar::whatPeopleExpandThemselves_stays()
 {
     Shown shown;
@@ -355,6 +366,11 @@ void tst_findbar::whatPeopleExpandThemselves_stays()
     QVERIFY(shown.row(5)->isExpanded());
     QVERIFY(MessageTreeWidget::sFieldInfoExpandedCollapsedMap.value(
         shown.format.field("Position.sats")));
+    shown.find("200");
+    shown.tree()->setFocus();
+    QTest::keyClick(shown.tree(), Qt::Key_Right, Qt::ControlModifier); // all
+    QTest::keyClick(shown.tree(), Qt::Key_Escape);
+    QVERIFY(shown.row(4)->isExpanded());
 }
 
 void tst_findbar::absentSubMessages_areFoundByWhatTheyWouldHold()
@@ -466,23 +482,31 @@ void tst_findbar::manyRows_neverStopTheEventLoop()
     Shown shown(QString("Position{volt: [%1]}").arg(values.join(',')));
     QCOMPARE(shown.row(4)->childCount(), rows);
 
-    qint64 longest = 0;
-    QElapsedTimer sinceTick;
+    // Of this program alone, whatever else the machine does.
+    double longestMs = 0;
+    std::clock_t lastTick = 0;
     QTimer ticker;
-    connect(&ticker, &QTimer::timeout, this,
-            [&] { longest = std::max(longest, sinceTick.restart()); });
+    connect(&ticker, &QTimer::timeout, this, [&] {
+        const std::clock_t now = std::clock();
+        longestMs = std::max(longestMs, 1000.0 * double(now - lastTick) / CLOCKS_PER_SEC);
+        lastTick = now;
+    });
     QTest::keyClick(&shown.panel, Qt::Key_F, Qt::ControlModifier);
-    sinceTick.start();
+    lastTick = std::clock();
     ticker.start(0);
     shown.edit()->setText("777");
     QTRY_COMPARE(shown.state(), "1 of 101");
     QTest::keyClick(shown.edit(), Qt::Key_F3, Qt::ShiftModifier);
     QTRY_COMPARE(shown.state(), "101 of 101, from the end again");
-    ticker.stop();
     QCOMPARE(shown.current(), "Position>volt>volt [99999]");
-    qInfo() << "longest stop of the event loop:" << longest << "ms";
-    // Without optimisation and beside other programs; 50 ms is what people notice.
-    QVERIFY2(longest < 250, qPrintable(QString::number(longest)));
+    shown.edit()->setText("1");
+    shown.wait();
+    QTest::keyClick(shown.edit(), Qt::Key_Escape);
+    QTest::qWait(1);
+    ticker.stop();
+    qInfo() << "longest stop of the event loop:" << longestMs << "ms";
+    // People notice 50 ms; a build without optimisation, or with sanitizers, is slower.
+    QVERIFY2(longestMs < 200, qPrintable(QString::number(longestMs)));
 }
 
 CORVANE_GUI_TEST_MAIN(tst_findbar)

@@ -142,6 +142,9 @@ void tst_hexview::mouse_selectsDigitsAndCharacters()
     const auto pointAt = [&](int x, int line) { return QPoint(x, line * row + row / 2); };
     QTest::mouseClick(shown.view.viewport(), Qt::LeftButton, {}, pointAt(digits(5), 1));
     QCOMPARE(shown.view.getSelection(), (ByteRange{21, 1}));
+    QSignalSpy activated(&shown.view, &HexView::activated);
+    QTest::mouseDClick(shown.view.viewport(), Qt::LeftButton, {}, pointAt(digits(5), 1));
+    QCOMPARE(activated.value(0).value(0).toInt(), 21);
     QTest::mouseClick(shown.view.viewport(), Qt::LeftButton, Qt::ShiftModifier,
                       pointAt(digits(0), 2));
     QCOMPARE(shown.view.getSelection(), (ByteRange{21, 12}));

@@ -10,6 +10,7 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QImage>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QToolTip>
 
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void description_beforeTheFirstMessage();
     void description_countsWhatTheFilterHides();
     void menuKey_asksForAMenuAtTheCurrentRow();
+    void goTo_bringsRowsIntoSight();
     void expandBelow_isRemembered();
     void expandAll_isRemembered();
 };
@@ -243,8 +245,9 @@ void tst_inspectortree::description_beforeTheFirstMessage()
     auto *row = new MessageTreeWidgetItem(&tree, format.type("Position"));
     tree.addTopLevelItem(row);
     row->configureInTreeWidget();
-    QCOMPARE(describeRow(row), QStringList({"Demo.Position", "Where it is",
-                                            "No message of this type has come yet."}));
+    QCOMPARE(
+        describeRow(row),
+        QStringList({"Demo.Position", "No message of this type has come yet.", "Where it is"}));
     QCOMPARE(describeRow(nullptr), QStringList());
 }
 
@@ -270,6 +273,30 @@ void tst_inspectortree::menuKey_asksForAMenuAtTheCurrentRow()
     QCOMPARE(spy.count(), 1);
     const QPoint place = shown.tree.viewport()->mapFromGlobal(spy.at(0).at(0).toPoint());
     QCOMPARE(shown.tree.itemAt(place), shown.at("mode"));
+}
+
+void tst_inspectortree::goTo_bringsRowsIntoSight()
+{
+    InspectorTree tree;
+    for (int i = 0; i < 1000; ++i)
+        tree.addTopLevelItem(new QTreeWidgetItem({QString::number(i)}));
+    tree.resize(300, 300);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    const auto yOf
+        = [&](int row) { return tree.visualItemRect(tree.topLevelItem(row)).center().y(); };
+    const int height = tree.viewport()->height();
+    tree.goTo(tree.topLevelItem(500));
+    QVERIFY(tree.topLevelItem(500)->isSelected());
+    QVERIFY(yOf(500) > height / 4 && yOf(500) < height * 3 / 4);
+    tree.goTo(tree.topLevelItem(502));
+    QVERIFY(yOf(500) > height / 4 && yOf(500) < height * 3 / 4); // nothing moves without need
+    tree.goTo(tree.topLevelItem(3));
+    QVERIFY(yOf(3) > 0 && yOf(3) < height);
+    QVERIFY(!tree.topLevelItem(502)->isSelected());
+    tree.verticalScrollBar()->setValue(900);
+    tree.goTo(tree.topLevelItem(3)); // the current one already
+    QVERIFY(yOf(3) > 0 && yOf(3) < height);
 }
 
 void tst_inspectortree::expandBelow_isRemembered()

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void whatCannotBeDone_saysWhy_data();
     void whatCannotBeDone_saysWhy();
     void everyAction_hasKeyAndToolTip();
+    void everyEntry_hasAMnemonicOfItsOwn();
     void filterByValue_hidesOtherElements();
     void formAndBytes_areAskedFor();
     void menu_opensByMouseAndKey();
@@ -275,6 +276,23 @@ void tst_rowactions::everyAction_hasKeyAndToolTip()
         keys.insert(key);
     }
     QCOMPARE(count, 16);
+}
+
+void tst_rowactions::everyEntry_hasAMnemonicOfItsOwn()
+{
+    const Shown shown;
+    for (const auto &menu : {shown.actions()->getActions(), shown.panel.getMenu()->actions()}) {
+        QSet<QChar> letters;
+        for (const QAction *action : menu) {
+            if (action->isSeparator())
+                continue;
+            const auto mark = action->text().indexOf('&');
+            QVERIFY2(mark >= 0, qPrintable(action->text()));
+            const QChar letter = action->text().at(mark + 1).toLower();
+            QVERIFY2(!letters.contains(letter), qPrintable(action->text()));
+            letters.insert(letter);
+        }
+    }
 }
 
 void tst_rowactions::filterByValue_hidesOtherElements()

@@ -1,0 +1,1321 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>PlotSeries</name>
+    <message>
+        <source>Not described by the loaded definitions, or not a number</source>
+        <translation>No descrito por las definiciones cargadas, o no es un número</translation>
+    </message>
+    <message>
+        <source>Confidential, not shown</source>
+        <translation>Confidencial, no se muestra</translation>
+    </message>
+    <message>
+        <source>Not received yet</source>
+        <translation>Aún no recibido</translation>
+    </message>
+    <message>
+        <source>Absent in the last message</source>
+        <translation>Ausente en el último mensaje</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>No finite number</source>
+        <translation>No es un número finito</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ConfidentialSwitch</name>
+    <message>
+        <source>Show &amp;Confidential Fields</source>
+        <translation>Mostrar campos &amp;confidenciales</translation>
+    </message>
+    <message>
+        <source>Show the content of fields that are marked as confidential</source>
+        <translation>Mostrar el contenido de los campos marcados como confidenciales</translation>
+    </message>
+    <message>
+        <source>Confidential fields become readable in all views, and in what is exported or copied from now on, until this window is closed.</source>
+        <translation>Los campos confidenciales se podrán leer en todas las vistas, y en lo que se exporte o copie desde ahora, hasta que se cierre esta ventana.</translation>
+    </message>
+    <message>
+        <source>&amp;Show Them</source>
+        <translation>&amp;Mostrarlos</translation>
+    </message>
+    <message>
+        <source>Keep Them Hidden</source>
+        <translation>Mantenerlos ocultos</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::EventLogPanel</name>
+    <message>
+        <source>Show only events that contain…</source>
+        <translation>Solo eventos que contengan…</translation>
+    </message>
+    <message>
+        <source>Filter of the event log</source>
+        <translation>Filtro del registro de eventos</translation>
+    </message>
+    <message>
+        <source>To the end</source>
+        <translation>Al final</translation>
+    </message>
+    <message>
+        <source>Scroll to the latest event and follow the log again</source>
+        <translation>Ir al último evento y volver a seguir el registro</translation>
+    </message>
+    <message>
+        <source>Event log</source>
+        <translation>Registro de eventos</translation>
+    </message>
+    <message>
+        <source>No events: nothing was damaged, lost or unknown</source>
+        <translation>Ningún evento: nada se dañó, se perdió ni era desconocido</translation>
+    </message>
+    <message>
+        <source>%1 entries</source>
+        <translation>%1 entradas</translation>
+    </message>
+    <message>
+        <source>%1 of %2 entries</source>
+        <translation>%1 de %2 entradas</translation>
+    </message>
+    <message>
+        <source>, not following</source>
+        <translation>, sin seguir</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ExportBar</name>
+    <message>
+        <source>Progress of the export</source>
+        <translation>Progreso de la exportación</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ExportController</name>
+    <message>
+        <source>CSV (*.csv);;All files (*)</source>
+        <translation>CSV (*.csv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Export Messages...</source>
+        <translation>&amp;Exportar mensajes…</translation>
+    </message>
+    <message>
+        <source>Write messages or some of their fields as CSV or JSON lines</source>
+        <translation>Escribir mensajes o algunos de sus campos como CSV o líneas JSON</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>Export &amp;Statistics...</source>
+        <translation>Exportar e&amp;stadísticas…</translation>
+    </message>
+    <message>
+        <source>Write the counts of all message types as CSV</source>
+        <translation>Escribir los recuentos de todos los tipos de mensaje como CSV</translation>
+    </message>
+    <message>
+        <source>Export Event &amp;Log...</source>
+        <translation>Exportar el &amp;registro de eventos…</translation>
+    </message>
+    <message>
+        <source>Write the event log as CSV</source>
+        <translation>Escribir el registro de eventos como CSV</translation>
+    </message>
+    <message>
+        <source>All of &quot;%1&quot; will be exported, from its start.</source>
+        <translation>Se exportará todo «%1», desde su comienzo.</translation>
+    </message>
+    <message>
+        <source>What %1 sends will be exported from now on, until you stop it.</source>
+        <translation>Lo que envíe %1 se exportará desde ahora, hasta que lo detenga.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export: no source is open.</source>
+        <translation>No hay nada que exportar: ninguna fuente está abierta.</translation>
+    </message>
+    <message>
+        <source>Export Statistics</source>
+        <translation>Exportar estadísticas</translation>
+    </message>
+    <message>
+        <source>Export Event Log</source>
+        <translation>Exportar el registro de eventos</translation>
+    </message>
+    <message>
+        <source>Exporting to &quot;%1&quot;: %2 messages</source>
+        <translation>Exportando a «%1»: %2 mensajes</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>%1 messages exported to &quot;%2&quot;.</source>
+        <translation>%1 mensajes exportados a «%2».</translation>
+    </message>
+    <message>
+        <source>The export ended after %1 messages: %2.</source>
+        <translation>La exportación terminó tras %1 mensajes: %2.</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;.</source>
+        <translation>Exportado a «%1».</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>No se puede escribir «%1»: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ExportDialog</name>
+    <message>
+        <source>&amp;Names in place of numbers, where values have names</source>
+        <translation>&amp;Nombres en vez de números, donde los valores los tengan</translation>
+    </message>
+    <message>
+        <source>Export Messages</source>
+        <translation>Exportar mensajes</translation>
+    </message>
+    <message>
+        <source>Messages and fields</source>
+        <translation>Mensajes y campos</translation>
+    </message>
+    <message>
+        <source>Message or field</source>
+        <translation>Mensaje o campo</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>CSV: a table</source>
+        <translation>CSV: una tabla</translation>
+    </message>
+    <message>
+        <source>JSON lines: an object for each message</source>
+        <translation>Líneas JSON: un objeto por mensaje</translation>
+    </message>
+    <message>
+        <source>Find messages and fields</source>
+        <translation>Buscar mensajes y campos</translation>
+    </message>
+    <message>
+        <source>F&amp;orm:</source>
+        <translation>F&amp;orma:</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>&amp;Archivo:</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportar</translation>
+    </message>
+    <message>
+        <source>Choose &amp;All</source>
+        <translation>Elegir &amp;todo</translation>
+    </message>
+    <message>
+        <source>Choose N&amp;one</source>
+        <translation>No elegir &amp;nada</translation>
+    </message>
+    <message>
+        <source>Of what the list shows</source>
+        <translation>De lo que muestra la lista</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation>E&amp;legir…</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>CSV (*.csv);;JSON lines (*.jsonl);;All files (*)</source>
+        <translation>CSV (*.csv);;Líneas JSON (*.jsonl);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Choose messages or fields to export.</source>
+        <translation>Elija mensajes o campos para exportar.</translation>
+    </message>
+    <message>
+        <source>Choose the file to write.</source>
+        <translation>Elija el archivo en que se escribirá.</translation>
+    </message>
+    <message>
+        <source>The file exists and will be replaced.</source>
+        <translation>El archivo existe y se reemplazará.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ExportJob</name>
+    <message>
+        <source>cannot write &quot;%1&quot;: it is the source</source>
+        <translation>no se puede escribir «%1»: es la fuente</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ExportWriter</name>
+    <message>
+        <source>cannot write &quot;%1&quot;: %2</source>
+        <translation>no se puede escribir «%1»: %2</translation>
+    </message>
+    <message>
+        <source>cannot write to standard output: %1</source>
+        <translation>no se puede escribir en la salida estándar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::FileList</name>
+    <message>
+        <source>Add…</source>
+        <translation>Añadir…</translation>
+    </message>
+    <message>
+        <source>Add to: %1</source>
+        <translation>Añadir a: %1</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Remove from: %1</source>
+        <translation>Quitar de: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::FormPanel</name>
+    <message>
+        <source>Fields of the chosen message type</source>
+        <translation>Campos del tipo de mensaje elegido</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::MainWindow</name>
+    <message>
+        <source>Message types</source>
+        <translation>Tipos de mensaje</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>Choose another source, or other definitions</source>
+        <translation>Elegir otra fuente u otras definiciones</translation>
+    </message>
+    <message>
+        <source>&amp;Pause the Views</source>
+        <translation>&amp;Pausar las vistas</translation>
+    </message>
+    <message>
+        <source>Ctrl+P</source>
+        <translation>Ctrl+P</translation>
+    </message>
+    <message>
+        <source>Leave the views as they are; everything is counted all the same</source>
+        <translation>Dejar las vistas como están; se cuenta todo igualmente</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Herramientas</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulario</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Vigilar</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Estadísticas</translation>
+    </message>
+    <message>
+        <source>Event log</source>
+        <translation>Registro de eventos</translation>
+    </message>
+    <message>
+        <source>Senders</source>
+        <translation>Emisores</translation>
+    </message>
+    <message>
+        <source>Plot (not in this build)</source>
+        <translation>Gráfica (no en esta versión)</translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation>Gráfica</translation>
+    </message>
+    <message>
+        <source>No definition describes this message. Load the definitions of its dialect with --definitions FILE.</source>
+        <translation>Ninguna definición describe este mensaje. Cargue las definiciones de su dialecto con --definitions FILE.</translation>
+    </message>
+    <message>
+        <source>No source is open. Start the inspector with a source: corvane-inspector --definitions FILE SOURCE. The option --help lists the kinds of sources.</source>
+        <translation>Ninguna fuente está abierta. Inicie el inspector con una fuente: corvane-inspector --definitions FILE SOURCE. La opción --help enumera las clases de fuentes.</translation>
+    </message>
+    <message>
+        <source>Waiting for messages from %1.</source>
+        <translation>Esperando mensajes de %1.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::MessageTreePanel</name>
+    <message>
+        <source>&amp;Tree</source>
+        <translation>Á&amp;rbol</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Choose what the tree shows</source>
+        <translation>Elegir qué muestra el árbol</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensajes</translation>
+    </message>
+    <message>
+        <source>Filter of repeated sub-messages</source>
+        <translation>Filtro de submensajes repetidos</translation>
+    </message>
+    <message>
+        <source>&amp;Computed Fields</source>
+        <translation>Campos &amp;calculados</translation>
+    </message>
+    <message>
+        <source>&amp;Secondary Fields</source>
+        <translation>Campos &amp;secundarios</translation>
+    </message>
+    <message>
+        <source>All &amp;Known Message Types</source>
+        <translation>Todos los tipos de mensaje c&amp;onocidos</translation>
+    </message>
+    <message>
+        <source>&amp;Expand All</source>
+        <translation>&amp;Desplegar todo</translation>
+    </message>
+    <message>
+        <source>C&amp;ollapse All</source>
+        <translation>&amp;Plegar todo</translation>
+    </message>
+    <message>
+        <source>Show only repeated sub-messages with this name of a value</source>
+        <translation>Mostrar solo los submensajes repetidos en que un valor tiene este nombre</translation>
+    </message>
+    <message>
+        <source>Nothing to filter: no message type has repeated sub-messages with named values</source>
+        <translation>Nada que filtrar: ningún tipo de mensaje tiene submensajes repetidos con valores con nombre</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::MessageTypeModel</name>
+    <message>
+        <source>No definition describes this message.</source>
+        <translation>Ninguna definición describe este mensaje.</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Cantidad</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::NoticeArea</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::OpenPanel</name>
+    <message>
+        <source>File or recording</source>
+        <translation>Archivo o grabación</translation>
+    </message>
+    <message>
+        <source>Network: connect (TCP)</source>
+        <translation>Red: conectar (TCP)</translation>
+    </message>
+    <message>
+        <source>Network: wait for a connection (TCP)</source>
+        <translation>Red: esperar una conexión (TCP)</translation>
+    </message>
+    <message>
+        <source>Network: datagrams (UDP)</source>
+        <translation>Red: datagramas (UDP)</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Puerto serie</translation>
+    </message>
+    <message>
+        <source>Output of a program</source>
+        <translation>Salida de un programa</translation>
+    </message>
+    <message>
+        <source>Open a Source</source>
+        <translation>Abrir una fuente</translation>
+    </message>
+    <message>
+        <source>&amp;Recent sources</source>
+        <translation>Fuentes &amp;recientes</translation>
+    </message>
+    <message>
+        <source>Recent sources</source>
+        <translation>Fuentes recientes</translation>
+    </message>
+    <message>
+        <source>This &amp;machine&apos;s own feed</source>
+        <translation>Los datos de esta &amp;máquina</translation>
+    </message>
+    <message>
+        <source>Load, memory, network, disks and processes of this machine, live</source>
+        <translation>Carga, memoria, red, discos y procesos de esta máquina, en directo</translation>
+    </message>
+    <message>
+        <source>Kind of source</source>
+        <translation>Clase de fuente</translation>
+    </message>
+    <message>
+        <source>Address of the source</source>
+        <translation>Dirección de la fuente</translation>
+    </message>
+    <message>
+        <source>Definitions</source>
+        <translation>Definiciones</translation>
+    </message>
+    <message>
+        <source>Definitions (*.xml *.proto *.desc *.pb);;All files (*)</source>
+        <translation>Definiciones (*.xml *.proto *.desc *.pb);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Overlays</source>
+        <translation>Capas añadidas</translation>
+    </message>
+    <message>
+        <source>Overlays (*.json);;All files (*)</source>
+        <translation>Capas añadidas (*.json);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Framing</source>
+        <translation>Encuadre</translation>
+    </message>
+    <message>
+        <source>By itself</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Root message type</source>
+        <translation>Tipo de mensaje raíz</translation>
+    </message>
+    <message>
+        <source>Protocol Buffers only: package.Type</source>
+        <translation>Solo Protocol Buffers: paquete.Tipo</translation>
+    </message>
+    <message>
+        <source>&amp;Source</source>
+        <translation>&amp;Fuente</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Dirección</translation>
+    </message>
+    <message>
+        <source>&amp;Definitions</source>
+        <translation>De&amp;finiciones</translation>
+    </message>
+    <message>
+        <source>O&amp;verlays</source>
+        <translation>&amp;Capas añadidas</translation>
+    </message>
+    <message>
+        <source>&amp;Framing</source>
+        <translation>&amp;Encuadre</translation>
+    </message>
+    <message>
+        <source>Root &amp;type</source>
+        <translation>&amp;Tipo raíz</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Examinar…</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Puertos</translation>
+    </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>Elegir el archivo</translation>
+    </message>
+    <message>
+        <source>Choose the port</source>
+        <translation>Elegir el puerto</translation>
+    </message>
+    <message>
+        <source>This machine has no serial port</source>
+        <translation>Esta máquina no tiene puerto serie</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Nothing yet: what you open is listed here.</source>
+        <translation>Nada todavía: lo que abra aparecerá aquí.</translation>
+    </message>
+    <message>
+        <source>Name the source: %1.</source>
+        <translation>Indique la fuente: %1.</translation>
+    </message>
+    <message>
+        <source>Messages cannot be read without their definitions. Add the files that describe them: a MAVLink dialect (.xml), such as common.xml, or Protocol Buffers files (.proto, or a descriptor set .desc).</source>
+        <translation>Los mensajes no se pueden leer sin sus definiciones. Añada los archivos que los describen: un dialecto MAVLink (.xml), como common.xml, o archivos de Protocol Buffers (.proto, o un conjunto de descriptores .desc).</translation>
+    </message>
+    <message>
+        <source>This starts a program on this machine: %1
+Press Open again to start it.</source>
+        <translation>Esto inicia un programa en esta máquina: %1
+Pulse Abrir otra vez para iniciarlo.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::PlotLegend</name>
+    <message>
+        <source>Plotted series</source>
+        <translation>Series trazadas</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Serie</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>At cursor</source>
+        <translation>En el cursor</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>Axis</source>
+        <translation>Eje</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>The newest value at the cursor&apos;s time</source>
+        <translation>El valor más reciente a la hora del cursor</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Draw at the Other Axis</source>
+        <translation>Trazar en el otro eje</translation>
+    </message>
+    <message>
+        <source>Ctrl+T</source>
+        <translation>Ctrl+T</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Quitar %1</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::PlotPanel</name>
+    <message>
+        <source>Path of a field to plot</source>
+        <translation>Ruta de un campo para trazar</translation>
+    </message>
+    <message>
+        <source>FORMAT.MESSAGE.FIELD; * stands for any text, FIELD[2] is the third element of a repeated field, FIELD[0..3] are the first four</source>
+        <translation>FORMATO.MENSAJE.CAMPO; * vale por cualquier texto, CAMPO[2] es el tercer elemento de un campo repetido, CAMPO[0..3] son los cuatro primeros</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Seguir</translation>
+    </message>
+    <message>
+        <source>Follow the newest value (End)</source>
+        <translation>Seguir el valor más reciente (Fin)</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>Acercar</translation>
+    </message>
+    <message>
+        <source>Show less time (+)</source>
+        <translation>Mostrar menos tiempo (+)</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>Alejar</translation>
+    </message>
+    <message>
+        <source>Show more time (-)</source>
+        <translation>Mostrar más tiempo (-)</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>Show all that was recorded (Home)</source>
+        <translation>Mostrar todo lo grabado (Inicio)</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajustar</translation>
+    </message>
+    <message>
+        <source>Fit the value axes to what is shown (V)</source>
+        <translation>Ajustar los ejes de valores a lo que se muestra (V)</translation>
+    </message>
+    <message>
+        <source>Axis per Unit</source>
+        <translation>Un eje por unidad</translation>
+    </message>
+    <message>
+        <source>Give each unit a value axis of its own</source>
+        <translation>Dar a cada unidad su propio eje de valores</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copy the picture (Ctrl+C)</source>
+        <translation>Copiar la imagen (Ctrl+C)</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save what is shown as PNG, SVG or CSV (Ctrl+S)</source>
+        <translation>Guardar lo que se muestra como PNG, SVG o CSV (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>No numeric field is named &quot;%1&quot;. A path is FORMAT.MESSAGE.FIELD; * stands for any text.</source>
+        <translation>Ningún campo numérico se llama «%1». Una ruta es FORMATO.MENSAJE.CAMPO; * vale por cualquier texto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names more than %2 fields; name fewer.</source>
+        <translation>«%1» designa más de %2 campos; designe menos.</translation>
+    </message>
+    <message>
+        <source>More than %1 series are not plotted.</source>
+        <translation>No se trazan más de %1 series.</translation>
+    </message>
+    <message>
+        <source>The picture is in the clipboard.</source>
+        <translation>La imagen está en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>Save the Plot</source>
+        <translation>Guardar la gráfica</translation>
+    </message>
+    <message>
+        <source>Picture (*.png);;Drawing (*.svg);;Shown values (*.csv)</source>
+        <translation>Imagen (*.png);;Dibujo (*.svg);;Valores mostrados (*.csv)</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Escrito: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::PlotView</name>
+    <message>
+        <source>Plot</source>
+        <translation>Gráfica</translation>
+    </message>
+    <message>
+        <source>%1 [%2]</source>
+        <translation>%1 [%2]</translation>
+    </message>
+    <message>
+        <source>Nothing is plotted yet. Type the path of a numeric field above, such as FORMAT.MESSAGE.FIELD, and press Enter; FIELD[2] is the third element of a repeated field.</source>
+        <translation>Aún no hay nada trazado. Escriba arriba la ruta de un campo numérico, como FORMATO.MENSAJE.CAMPO, y pulse Intro; CAMPO[2] es el tercer elemento de un campo repetido.</translation>
+    </message>
+    <message>
+        <source>No values yet. They appear as soon as messages with the chosen fields arrive.</source>
+        <translation>Aún no hay valores. Aparecerán en cuanto lleguen mensajes con los campos elegidos.</translation>
+    </message>
+    <message>
+        <source>Following the newest value, %1 s</source>
+        <translation>Sigue el valor más reciente, %1 s</translation>
+    </message>
+    <message>
+        <source>Standing still, %1 s</source>
+        <translation>Quieta, %1 s</translation>
+    </message>
+    <message>
+        <source>Paused, values are kept; %1 s</source>
+        <translation>En pausa, los valores se conservan; %1 s</translation>
+    </message>
+    <message>
+        <source>; value axes as set by hand</source>
+        <translation>; ejes de valores ajustados a mano</translation>
+    </message>
+    <message>
+        <source>; cursor at %1</source>
+        <translation>; cursor en %1</translation>
+    </message>
+    <message>
+        <source>The name of the file must end in .png, .svg or .csv.</source>
+        <translation>El nombre del archivo debe terminar en .png, .svg o .csv.</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>No se puede escribir «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::RecordController</name>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>There is nothing to record: no source is open.</source>
+        <translation>No hay nada que grabar: ninguna fuente está abierta.</translation>
+    </message>
+    <message>
+        <source>Record to a File</source>
+        <translation>Grabar en un archivo</translation>
+    </message>
+    <message>
+        <source>Recorded %1 to &quot;%2&quot;.</source>
+        <translation>%1 grabado en «%2».</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>Detener la &amp;grabación</translation>
+    </message>
+    <message>
+        <source>&amp;Record…</source>
+        <translation>&amp;Grabar…</translation>
+    </message>
+    <message>
+        <source>End the recording and close its file</source>
+        <translation>Terminar la grabación y cerrar su archivo</translation>
+    </message>
+    <message>
+        <source>Write the bytes of the source to a file as they come</source>
+        <translation>Escribir en un archivo los bytes de la fuente según llegan</translation>
+    </message>
+    <message>
+        <source>Recording to &quot;%1&quot;: %2</source>
+        <translation>Grabando en «%1»: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Detener</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::SenderChooser</name>
+    <message>
+        <source>Sender whose messages are shown</source>
+        <translation>Emisor cuyos mensajes se muestran</translation>
+    </message>
+    <message>
+        <source>Whose messages the views show. Everything is counted, whoever sends it.</source>
+        <translation>De quién son los mensajes que muestran las vistas. Se cuenta todo, lo envíe quien lo envíe.</translation>
+    </message>
+    <message>
+        <source>Only sender %1</source>
+        <translation>Solo el emisor %1</translation>
+    </message>
+    <message>
+        <source>All %1 senders: the last one wins</source>
+        <translation>Los %1 emisores: vale el último</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::SendersPanel</name>
+    <message>
+        <source>Here stands each sender with what it has sent and what was lost, once messages with sequence numbers come.</source>
+        <translation>Aquí figura cada emisor con lo que ha enviado y lo que se ha perdido, en cuanto lleguen mensajes con números de secuencia.</translation>
+    </message>
+    <message>
+        <source>Senders</source>
+        <translation>Emisores</translation>
+    </message>
+    <message>
+        <source>Sender</source>
+        <translation>Emisor</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Tramas</translation>
+    </message>
+    <message>
+        <source>Places with losses</source>
+        <translation>Lugares con pérdidas</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Perdidos</translation>
+    </message>
+    <message>
+        <source>CRC errors</source>
+        <translation>Errores de CRC</translation>
+    </message>
+    <message>
+        <source>Below a sender: the message types that its damaged frames claim to be of</source>
+        <translation>Bajo un emisor: los tipos de mensaje que sus tramas dañadas dicen ser</translation>
+    </message>
+    <message>
+        <source>Messages missing by their sequence numbers</source>
+        <translation>Mensajes que faltan según sus números de secuencia</translation>
+    </message>
+    <message>
+        <source>Enter or a double click shows the messages of one sender only</source>
+        <translation>Intro o un doble clic muestra solo los mensajes de un emisor</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::Session</name>
+    <message>
+        <source>An MCAP file brings its own definitions. Leave out --definitions and --root.</source>
+        <translation>Un archivo MCAP trae sus propias definiciones. Omita --definitions y --root.</translation>
+    </message>
+    <message>
+        <source>Definitions of different formats cannot be mixed.</source>
+        <translation>No se pueden mezclar definiciones de formatos distintos.</translation>
+    </message>
+    <message>
+        <source>--root and --import-path go with definitions of Protocol Buffers.</source>
+        <translation>--root y --import-path van con definiciones de Protocol Buffers.</translation>
+    </message>
+    <message>
+        <source>--framing %1 does not go with %2; expected one of: %3.</source>
+        <translation>--framing %1 no va con %2; se esperaba uno de: %3.</translation>
+    </message>
+    <message>
+        <source>Opened %1.</source>
+        <translation>%1 abierto.</translation>
+    </message>
+    <message>
+        <source>%1 has ended.</source>
+        <translation>%1 ha terminado.</translation>
+    </message>
+    <message>
+        <source>Cannot record to &quot;%1&quot;: it is the file that is being read. Choose another name.</source>
+        <translation>No se puede grabar en «%1»: es el archivo que se está leyendo. Elija otro nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::StatisticsPanel</name>
+    <message>
+        <source>Here stand count, rate, intervals and gaps of each message type, once messages come.</source>
+        <translation>Aquí figuran cantidad, frecuencia, intervalos y huecos de cada tipo de mensaje, en cuanto lleguen mensajes.</translation>
+    </message>
+    <message>
+        <source>Reception statistics</source>
+        <translation>Estadísticas de recepción</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::StatusFigures</name>
+    <message>
+        <source>Bytes that have come and wait to be read. A figure that grows says that more comes than can be shown.</source>
+        <translation>Bytes que han llegado y esperan ser leídos. Una cifra que crece dice que llega más de lo que se puede mostrar.</translation>
+    </message>
+    <message>
+        <source>The longest time in the last 5 seconds in which the window did not react, because it was busy with messages or drawing</source>
+        <translation>El tiempo más largo de los últimos 5 segundos en que la ventana no reaccionó, ocupada con mensajes o dibujando</translation>
+    </message>
+    <message>
+        <source>Longest round: %1 ms</source>
+        <translation>Vuelta más larga: %1 ms</translation>
+    </message>
+    <message>
+        <source>Messages: %1 (%2 per second)</source>
+        <translation>Mensajes: %1 (%2 por segundo)</translation>
+    </message>
+    <message>
+        <source>, CRC errors: %1</source>
+        <translation>, errores de CRC: %1</translation>
+    </message>
+    <message>
+        <source>, unknown: %1</source>
+        <translation>, desconocidos: %1</translation>
+    </message>
+    <message>
+        <source>, datagrams dropped: %1</source>
+        <translation>, datagramas descartados: %1</translation>
+    </message>
+    <message>
+        <source>Paused, new: %1; </source>
+        <translation>En pausa, nuevos: %1; </translation>
+    </message>
+    <message>
+        <source>Backlog: %1</source>
+        <translation>Atraso: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::TransportBar</name>
+    <message>
+        <source>Playback</source>
+        <translation>Reproducción</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Ctrl+Space</source>
+        <translation>Ctrl+Space</translation>
+    </message>
+    <message>
+        <source>Next Message</source>
+        <translation>Mensaje siguiente</translation>
+    </message>
+    <message>
+        <source>Ctrl+.</source>
+        <translation>Ctrl+.</translation>
+    </message>
+    <message>
+        <source>Read on to the next message (Right, %1)</source>
+        <translation>Leer hasta el mensaje siguiente (Derecha, %1)</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>How fast the recording is played</source>
+        <translation>A qué velocidad se reproduce la grabación</translation>
+    </message>
+    <message>
+        <source>%1 x</source>
+        <translation>%1 x</translation>
+    </message>
+    <message>
+        <source>No waiting</source>
+        <translation>Sin esperar</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>The place in the recording</source>
+        <translation>El lugar en la grabación</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Indexing</source>
+        <translation>Indexación</translation>
+    </message>
+    <message>
+        <source>How much of the file has been indexed: places behind cannot be reached yet</source>
+        <translation>Cuánto del archivo está indexado: lo que sigue aún no se puede alcanzar</translation>
+    </message>
+    <message>
+        <source>Indexing: %p %</source>
+        <translation>Indexación: %p %</translation>
+    </message>
+    <message>
+        <source>Stop Indexing</source>
+        <translation>Detener la indexación</translation>
+    </message>
+    <message>
+        <source>Places that have not been indexed cannot be reached then</source>
+        <translation>Los lugares no indexados no se podrán alcanzar entonces</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>%1 (Space, %2)</source>
+        <translation>%1 (Espacio, %2)</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::TreeHistory</name>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Historial</translation>
+    </message>
+    <message>
+        <source>A small line of the last 15 seconds of each numeric field</source>
+        <translation>Una pequeña línea de los últimos 15 segundos de cada campo numérico</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ViewSettings</name>
+    <message>
+        <source>10 Times a Second</source>
+        <translation>10 veces por segundo</translation>
+    </message>
+    <message>
+        <source>4 Times a Second</source>
+        <translation>4 veces por segundo</translation>
+    </message>
+    <message>
+        <source>Once a Second</source>
+        <translation>Una vez por segundo</translation>
+    </message>
+    <message>
+        <source>Every 5 Seconds</source>
+        <translation>Cada 5 segundos</translation>
+    </message>
+    <message>
+        <source>Times in &amp;UTC</source>
+        <translation>Horas en &amp;UTC</translation>
+    </message>
+    <message>
+        <source>Show times in UTC instead of this machine&apos;s time zone</source>
+        <translation>Mostrar las horas en UTC en vez de la zona de esta máquina</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>&amp;Ampliar</translation>
+    </message>
+    <message>
+        <source>Larger text in the views</source>
+        <translation>Texto más grande en las vistas</translation>
+    </message>
+    <message>
+        <source>Ctrl++</source>
+        <translation>Ctrl++</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>&amp;Reducir</translation>
+    </message>
+    <message>
+        <source>Smaller text in the views</source>
+        <translation>Texto más pequeño en las vistas</translation>
+    </message>
+    <message>
+        <source>Ctrl+-</source>
+        <translation>Ctrl+-</translation>
+    </message>
+    <message>
+        <source>&amp;Normal Size</source>
+        <translation>Tamaño &amp;normal</translation>
+    </message>
+    <message>
+        <source>Text of the usual size in the views</source>
+        <translation>Texto del tamaño habitual en las vistas</translation>
+    </message>
+    <message>
+        <source>Ctrl+0</source>
+        <translation>Ctrl+0</translation>
+    </message>
+    <message>
+        <source>How often counts and statistics are refreshed</source>
+        <translation>Cada cuánto se refrescan recuentos y estadísticas</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh of Counts</source>
+        <translation>&amp;Refresco de recuentos</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::WatchPanel</name>
+    <message>
+        <source>Type the path of a field and press Enter, or pick one and press Watch.</source>
+        <translation>Escriba la ruta de un campo y pulse Intro, o elija uno y pulse Vigilar.</translation>
+    </message>
+    <message>
+        <source>Path of a field</source>
+        <translation>Ruta de un campo</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Message type</source>
+        <translation>Tipo de mensaje</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Campo</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Vigilar</translation>
+    </message>
+    <message>
+        <source>Add the chosen fields</source>
+        <translation>Añadir los campos elegidos</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move the current row up</source>
+        <translation>Subir la fila actual</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Move the current row down</source>
+        <translation>Bajar la fila actual</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Stop watching the current row (Delete)</source>
+        <translation>Dejar de vigilar la fila actual (Supr)</translation>
+    </message>
+    <message>
+        <source>Watched fields</source>
+        <translation>Campos vigilados</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Ruta</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Stop Watching</source>
+        <translation>Dejar de vigilar</translation>
+    </message>
+    <message>
+        <source>No field is named &quot;%1&quot;. A path is FORMAT.MESSAGE.FIELD; * stands for any text.</source>
+        <translation>Ningún campo se llama «%1». Una ruta es FORMATO.MENSAJE.CAMPO; * vale por cualquier texto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names more than %2 fields; name fewer.</source>
+        <translation>«%1» designa más de %2 campos; designe menos.</translation>
+    </message>
+    <message>
+        <source>Not described by the loaded definitions</source>
+        <translation>No descrito por las definiciones cargadas</translation>
+    </message>
+    <message>
+        <source>Not received yet</source>
+        <translation>Aún no recibido</translation>
+    </message>
+    <message>
+        <source>Timed out</source>
+        <translation>Caducado</translation>
+    </message>
+    <message>
+        <source>Absent in the last message</source>
+        <translation>Ausente en el último mensaje</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>Actual</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::Workbench</name>
+    <message>
+        <source>Corvane Inspector</source>
+        <translation>Inspector Corvane</translation>
+    </message>
+    <message>
+        <source>End of %1</source>
+        <translation>Fin de %1</translation>
+    </message>
+</context>
+</TS>

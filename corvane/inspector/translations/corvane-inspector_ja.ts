@@ -1,0 +1,1321 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>PlotSeries</name>
+    <message>
+        <source>Not described by the loaded definitions, or not a number</source>
+        <translation>読み込まれた定義に記述がないか、数値ではありません</translation>
+    </message>
+    <message>
+        <source>Confidential, not shown</source>
+        <translation>機密のため表示しません</translation>
+    </message>
+    <message>
+        <source>Not received yet</source>
+        <translation>まだ受信していません</translation>
+    </message>
+    <message>
+        <source>Absent in the last message</source>
+        <translation>最後のメッセージにありません</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>受信済み</translation>
+    </message>
+    <message>
+        <source>No finite number</source>
+        <translation>有限の数ではありません</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ConfidentialSwitch</name>
+    <message>
+        <source>Show &amp;Confidential Fields</source>
+        <translation>機密フィールドを表示(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Show the content of fields that are marked as confidential</source>
+        <translation>機密とされたフィールドの内容を表示します</translation>
+    </message>
+    <message>
+        <source>Confidential fields become readable in all views, and in what is exported or copied from now on, until this window is closed.</source>
+        <translation>このウィンドウを閉じるまで、機密フィールドがすべての表示で読めるようになり、今後エクスポートまたはコピーする内容にも含まれます。</translation>
+    </message>
+    <message>
+        <source>&amp;Show Them</source>
+        <translation>表示する(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Keep Them Hidden</source>
+        <translation>隠したままにする</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::EventLogPanel</name>
+    <message>
+        <source>Show only events that contain…</source>
+        <translation>次を含むイベントのみ表示…</translation>
+    </message>
+    <message>
+        <source>Filter of the event log</source>
+        <translation>イベントログのフィルター</translation>
+    </message>
+    <message>
+        <source>To the end</source>
+        <translation>最後へ</translation>
+    </message>
+    <message>
+        <source>Scroll to the latest event and follow the log again</source>
+        <translation>最新のイベントへ移動し、再びログに追従します</translation>
+    </message>
+    <message>
+        <source>Event log</source>
+        <translation>イベントログ</translation>
+    </message>
+    <message>
+        <source>No events: nothing was damaged, lost or unknown</source>
+        <translation>イベントなし: 破損、消失、未知のものはありません</translation>
+    </message>
+    <message>
+        <source>%1 entries</source>
+        <translation>%1 件</translation>
+    </message>
+    <message>
+        <source>%1 of %2 entries</source>
+        <translation>%2 件中 %1 件</translation>
+    </message>
+    <message>
+        <source>, not following</source>
+        <translation>、追従していません</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ExportBar</name>
+    <message>
+        <source>Progress of the export</source>
+        <translation>エクスポートの進行状況</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ExportController</name>
+    <message>
+        <source>CSV (*.csv);;All files (*)</source>
+        <translation>CSV (*.csv);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Export Messages...</source>
+        <translation>メッセージをエクスポート(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Write messages or some of their fields as CSV or JSON lines</source>
+        <translation>メッセージまたはその一部のフィールドを CSV または JSON 行として書き出します</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>Export &amp;Statistics...</source>
+        <translation>統計をエクスポート(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Write the counts of all message types as CSV</source>
+        <translation>すべてのメッセージ型の回数を CSV として書き出します</translation>
+    </message>
+    <message>
+        <source>Export Event &amp;Log...</source>
+        <translation>イベントログをエクスポート(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Write the event log as CSV</source>
+        <translation>イベントログを CSV として書き出します</translation>
+    </message>
+    <message>
+        <source>All of &quot;%1&quot; will be exported, from its start.</source>
+        <translation>「%1」の全体を最初からエクスポートします。</translation>
+    </message>
+    <message>
+        <source>What %1 sends will be exported from now on, until you stop it.</source>
+        <translation>%1 が送るものを今から、停止するまでエクスポートします。</translation>
+    </message>
+    <message>
+        <source>There is nothing to export: no source is open.</source>
+        <translation>エクスポートするものがありません: 入力元が開かれていません。</translation>
+    </message>
+    <message>
+        <source>Export Statistics</source>
+        <translation>統計をエクスポート</translation>
+    </message>
+    <message>
+        <source>Export Event Log</source>
+        <translation>イベントログをエクスポート</translation>
+    </message>
+    <message>
+        <source>Exporting to &quot;%1&quot;: %2 messages</source>
+        <translation>「%1」へエクスポート中: %2 メッセージ</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>%1 messages exported to &quot;%2&quot;.</source>
+        <translation>%1 メッセージを「%2」にエクスポートしました。</translation>
+    </message>
+    <message>
+        <source>The export ended after %1 messages: %2.</source>
+        <translation>エクスポートは %1 メッセージで終わりました: %2。</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;.</source>
+        <translation>「%1」にエクスポートしました。</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>「%1」に書き込めません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ExportDialog</name>
+    <message>
+        <source>&amp;Names in place of numbers, where values have names</source>
+        <translation>値に名前がある場合は数の代わりに名前(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Export Messages</source>
+        <translation>メッセージをエクスポート</translation>
+    </message>
+    <message>
+        <source>Messages and fields</source>
+        <translation>メッセージとフィールド</translation>
+    </message>
+    <message>
+        <source>Message or field</source>
+        <translation>メッセージまたはフィールド</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>受信済み</translation>
+    </message>
+    <message>
+        <source>CSV: a table</source>
+        <translation>CSV: 表</translation>
+    </message>
+    <message>
+        <source>JSON lines: an object for each message</source>
+        <translation>JSON 行: メッセージごとに一つのオブジェクト</translation>
+    </message>
+    <message>
+        <source>Find messages and fields</source>
+        <translation>メッセージとフィールドを検索</translation>
+    </message>
+    <message>
+        <source>F&amp;orm:</source>
+        <translation>形式(&amp;O):</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>ファイル(&amp;F):</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>エクスポート(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Choose &amp;All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Choose N&amp;one</source>
+        <translation>選択解除(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Of what the list shows</source>
+        <translation>一覧に表示されているもの</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation>選択(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>CSV (*.csv);;JSON lines (*.jsonl);;All files (*)</source>
+        <translation>CSV (*.csv);;JSON 行 (*.jsonl);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Choose messages or fields to export.</source>
+        <translation>エクスポートするメッセージまたはフィールドを選んでください。</translation>
+    </message>
+    <message>
+        <source>Choose the file to write.</source>
+        <translation>書き込むファイルを選んでください。</translation>
+    </message>
+    <message>
+        <source>The file exists and will be replaced.</source>
+        <translation>ファイルは既にあり、置き換えられます。</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ExportJob</name>
+    <message>
+        <source>cannot write &quot;%1&quot;: it is the source</source>
+        <translation>「%1」に書き込めません: 入力元です</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ExportWriter</name>
+    <message>
+        <source>cannot write &quot;%1&quot;: %2</source>
+        <translation>「%1」に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>cannot write to standard output: %1</source>
+        <translation>標準出力に書き込めません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::FileList</name>
+    <message>
+        <source>Add…</source>
+        <translation>追加…</translation>
+    </message>
+    <message>
+        <source>Add to: %1</source>
+        <translation>追加先: %1</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Remove from: %1</source>
+        <translation>削除元: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::FormPanel</name>
+    <message>
+        <source>Fields of the chosen message type</source>
+        <translation>選んだメッセージ型のフィールド</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::MainWindow</name>
+    <message>
+        <source>Message types</source>
+        <translation>メッセージ型</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>開く(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Choose another source, or other definitions</source>
+        <translation>別の入力元または別の定義を選びます</translation>
+    </message>
+    <message>
+        <source>&amp;Pause the Views</source>
+        <translation>表示を一時停止(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Ctrl+P</source>
+        <translation>Ctrl+P</translation>
+    </message>
+    <message>
+        <source>Leave the views as they are; everything is counted all the same</source>
+        <translation>表示をそのままにします。すべて数え続けます</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>ツール</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>監視</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>統計</translation>
+    </message>
+    <message>
+        <source>Event log</source>
+        <translation>イベントログ</translation>
+    </message>
+    <message>
+        <source>Senders</source>
+        <translation>送信元</translation>
+    </message>
+    <message>
+        <source>Plot (not in this build)</source>
+        <translation>グラフ（このビルドにはありません）</translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation>グラフ</translation>
+    </message>
+    <message>
+        <source>No definition describes this message. Load the definitions of its dialect with --definitions FILE.</source>
+        <translation>このメッセージを記述する定義がありません。その方言の定義を --definitions FILE で読み込んでください。</translation>
+    </message>
+    <message>
+        <source>No source is open. Start the inspector with a source: corvane-inspector --definitions FILE SOURCE. The option --help lists the kinds of sources.</source>
+        <translation>入力元が開かれていません。入力元を付けて起動してください: corvane-inspector --definitions FILE SOURCE。オプション --help で入力元の種類がわかります。</translation>
+    </message>
+    <message>
+        <source>Waiting for messages from %1.</source>
+        <translation>%1 からのメッセージを待っています。</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::MessageTreePanel</name>
+    <message>
+        <source>&amp;Tree</source>
+        <translation>ツリー(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Choose what the tree shows</source>
+        <translation>ツリーに表示するものを選びます</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>メッセージ</translation>
+    </message>
+    <message>
+        <source>Filter of repeated sub-messages</source>
+        <translation>繰り返しサブメッセージのフィルター</translation>
+    </message>
+    <message>
+        <source>&amp;Computed Fields</source>
+        <translation>計算フィールド(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Secondary Fields</source>
+        <translation>副次フィールド(&amp;S)</translation>
+    </message>
+    <message>
+        <source>All &amp;Known Message Types</source>
+        <translation>既知のすべてのメッセージ型(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Expand All</source>
+        <translation>すべて展開(&amp;E)</translation>
+    </message>
+    <message>
+        <source>C&amp;ollapse All</source>
+        <translation>すべて折りたたむ(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show only repeated sub-messages with this name of a value</source>
+        <translation>値がこの名前を持つ繰り返しサブメッセージだけを表示します</translation>
+    </message>
+    <message>
+        <source>Nothing to filter: no message type has repeated sub-messages with named values</source>
+        <translation>フィルターの対象なし: 名前付きの値を持つ繰り返しサブメッセージのあるメッセージ型がありません</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::MessageTypeModel</name>
+    <message>
+        <source>No definition describes this message.</source>
+        <translation>このメッセージを記述する定義がありません。</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>メッセージ</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>回数</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::NoticeArea</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::OpenPanel</name>
+    <message>
+        <source>File or recording</source>
+        <translation>ファイルまたは記録</translation>
+    </message>
+    <message>
+        <source>Network: connect (TCP)</source>
+        <translation>ネットワーク: 接続する (TCP)</translation>
+    </message>
+    <message>
+        <source>Network: wait for a connection (TCP)</source>
+        <translation>ネットワーク: 接続を待つ (TCP)</translation>
+    </message>
+    <message>
+        <source>Network: datagrams (UDP)</source>
+        <translation>ネットワーク: データグラム (UDP)</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>シリアルポート</translation>
+    </message>
+    <message>
+        <source>Output of a program</source>
+        <translation>プログラムの出力</translation>
+    </message>
+    <message>
+        <source>Open a Source</source>
+        <translation>入力元を開く</translation>
+    </message>
+    <message>
+        <source>&amp;Recent sources</source>
+        <translation>最近の入力元(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Recent sources</source>
+        <translation>最近の入力元</translation>
+    </message>
+    <message>
+        <source>This &amp;machine&apos;s own feed</source>
+        <translation>このコンピューターのデータ(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Load, memory, network, disks and processes of this machine, live</source>
+        <translation>このコンピューターの負荷、メモリー、ネットワーク、ディスク、プロセスをライブで</translation>
+    </message>
+    <message>
+        <source>Kind of source</source>
+        <translation>入力元の種類</translation>
+    </message>
+    <message>
+        <source>Address of the source</source>
+        <translation>入力元のアドレス</translation>
+    </message>
+    <message>
+        <source>Definitions</source>
+        <translation>定義</translation>
+    </message>
+    <message>
+        <source>Definitions (*.xml *.proto *.desc *.pb);;All files (*)</source>
+        <translation>定義 (*.xml *.proto *.desc *.pb);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Overlays</source>
+        <translation>オーバーレイ</translation>
+    </message>
+    <message>
+        <source>Overlays (*.json);;All files (*)</source>
+        <translation>オーバーレイ (*.json);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Framing</source>
+        <translation>フレーミング</translation>
+    </message>
+    <message>
+        <source>By itself</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Root message type</source>
+        <translation>ルートのメッセージ型</translation>
+    </message>
+    <message>
+        <source>Protocol Buffers only: package.Type</source>
+        <translation>Protocol Buffers のみ: package.Type</translation>
+    </message>
+    <message>
+        <source>&amp;Source</source>
+        <translation>入力元(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>アドレス(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Definitions</source>
+        <translation>定義(&amp;D)</translation>
+    </message>
+    <message>
+        <source>O&amp;verlays</source>
+        <translation>オーバーレイ(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Framing</source>
+        <translation>フレーミング(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Root &amp;type</source>
+        <translation>ルートの型(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>参照…</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>ファイルを選びます</translation>
+    </message>
+    <message>
+        <source>Choose the port</source>
+        <translation>ポートを選びます</translation>
+    </message>
+    <message>
+        <source>This machine has no serial port</source>
+        <translation>このコンピューターにはシリアルポートがありません</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Nothing yet: what you open is listed here.</source>
+        <translation>まだありません: 開いたものがここに並びます。</translation>
+    </message>
+    <message>
+        <source>Name the source: %1.</source>
+        <translation>入力元を指定してください: %1。</translation>
+    </message>
+    <message>
+        <source>Messages cannot be read without their definitions. Add the files that describe them: a MAVLink dialect (.xml), such as common.xml, or Protocol Buffers files (.proto, or a descriptor set .desc).</source>
+        <translation>メッセージは定義なしでは読めません。それを記述するファイルを追加してください: common.xml のような MAVLink の方言 (.xml）、または Protocol Buffers のファイル（.proto、または記述子セット .desc）。</translation>
+    </message>
+    <message>
+        <source>This starts a program on this machine: %1
+Press Open again to start it.</source>
+        <translation>このコンピューターでプログラムを起動します: %1
+起動するには「開く」をもう一度押してください。</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::PlotLegend</name>
+    <message>
+        <source>Plotted series</source>
+        <translation>描かれている系列</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>系列</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>At cursor</source>
+        <translation>カーソル位置</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Axis</source>
+        <translation>軸</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>The newest value at the cursor&apos;s time</source>
+        <translation>カーソルの時刻での最新の値</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Draw at the Other Axis</source>
+        <translation>もう一方の軸に描く</translation>
+    </message>
+    <message>
+        <source>Ctrl+T</source>
+        <translation>Ctrl+T</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 を削除</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::PlotPanel</name>
+    <message>
+        <source>Path of a field to plot</source>
+        <translation>描くフィールドのパス</translation>
+    </message>
+    <message>
+        <source>FORMAT.MESSAGE.FIELD; * stands for any text, FIELD[2] is the third element of a repeated field, FIELD[0..3] are the first four</source>
+        <translation>FORMAT.MESSAGE.FIELD。* は任意の文字列、FIELD[2] は繰り返しフィールドの三番目の要素、FIELD[0..3] は最初の四つです</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>追従</translation>
+    </message>
+    <message>
+        <source>Follow the newest value (End)</source>
+        <translation>最新の値に追従します (End)</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>Show less time (+)</source>
+        <translation>表示する時間を短くします (+)</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Show more time (-)</source>
+        <translation>表示する時間を長くします (-)</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全体</translation>
+    </message>
+    <message>
+        <source>Show all that was recorded (Home)</source>
+        <translation>記録されたすべてを表示します (Home)</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>合わせる</translation>
+    </message>
+    <message>
+        <source>Fit the value axes to what is shown (V)</source>
+        <translation>値の軸を表示内容に合わせます (V)</translation>
+    </message>
+    <message>
+        <source>Axis per Unit</source>
+        <translation>単位ごとの軸</translation>
+    </message>
+    <message>
+        <source>Give each unit a value axis of its own</source>
+        <translation>単位ごとに値の軸を設けます</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copy the picture (Ctrl+C)</source>
+        <translation>画像をコピーします (Ctrl+C)</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save what is shown as PNG, SVG or CSV (Ctrl+S)</source>
+        <translation>表示内容を PNG、SVG、CSV として保存します (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>No numeric field is named &quot;%1&quot;. A path is FORMAT.MESSAGE.FIELD; * stands for any text.</source>
+        <translation>「%1」という数値フィールドはありません。パスは FORMAT.MESSAGE.FIELD で、* は任意の文字列です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names more than %2 fields; name fewer.</source>
+        <translation>「%1」は %2 個を超えるフィールドを指します。絞ってください。</translation>
+    </message>
+    <message>
+        <source>More than %1 series are not plotted.</source>
+        <translation>系列は %1 個までしか描かれません。</translation>
+    </message>
+    <message>
+        <source>The picture is in the clipboard.</source>
+        <translation>画像をクリップボードに入れました。</translation>
+    </message>
+    <message>
+        <source>Save the Plot</source>
+        <translation>グラフを保存</translation>
+    </message>
+    <message>
+        <source>Picture (*.png);;Drawing (*.svg);;Shown values (*.csv)</source>
+        <translation>画像 (*.png);;図面 (*.svg);;表示された値 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>書き込みました: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::PlotView</name>
+    <message>
+        <source>Plot</source>
+        <translation>グラフ</translation>
+    </message>
+    <message>
+        <source>%1 [%2]</source>
+        <translation>%1 [%2]</translation>
+    </message>
+    <message>
+        <source>Nothing is plotted yet. Type the path of a numeric field above, such as FORMAT.MESSAGE.FIELD, and press Enter; FIELD[2] is the third element of a repeated field.</source>
+        <translation>まだ何も描かれていません。上に FORMAT.MESSAGE.FIELD のような数値フィールドのパスを入力して Enter を押してください。FIELD[2] は繰り返しフィールドの三番目の要素です。</translation>
+    </message>
+    <message>
+        <source>No values yet. They appear as soon as messages with the chosen fields arrive.</source>
+        <translation>まだ値がありません。選んだフィールドを持つメッセージが届くと現れます。</translation>
+    </message>
+    <message>
+        <source>Following the newest value, %1 s</source>
+        <translation>最新の値に追従、%1 秒</translation>
+    </message>
+    <message>
+        <source>Standing still, %1 s</source>
+        <translation>静止、%1 秒</translation>
+    </message>
+    <message>
+        <source>Paused, values are kept; %1 s</source>
+        <translation>一時停止、値は保持されます、%1 秒</translation>
+    </message>
+    <message>
+        <source>; value axes as set by hand</source>
+        <translation>。値の軸は手動設定</translation>
+    </message>
+    <message>
+        <source>; cursor at %1</source>
+        <translation>。カーソルは %1</translation>
+    </message>
+    <message>
+        <source>The name of the file must end in .png, .svg or .csv.</source>
+        <translation>ファイル名は .png、.svg、.csv のいずれかで終わる必要があります。</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>「%1」に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::RecordController</name>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>There is nothing to record: no source is open.</source>
+        <translation>記録するものがありません: 入力元が開かれていません。</translation>
+    </message>
+    <message>
+        <source>Record to a File</source>
+        <translation>ファイルに記録</translation>
+    </message>
+    <message>
+        <source>Recorded %1 to &quot;%2&quot;.</source>
+        <translation>%1 を「%2」に記録しました。</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>記録を停止(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Record…</source>
+        <translation>記録(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>End the recording and close its file</source>
+        <translation>記録を終えてファイルを閉じます</translation>
+    </message>
+    <message>
+        <source>Write the bytes of the source to a file as they come</source>
+        <translation>入力元のバイトを届いたままファイルに書き込みます</translation>
+    </message>
+    <message>
+        <source>Recording to &quot;%1&quot;: %2</source>
+        <translation>「%1」に記録中: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>停止(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::SenderChooser</name>
+    <message>
+        <source>Sender whose messages are shown</source>
+        <translation>メッセージを表示する送信元</translation>
+    </message>
+    <message>
+        <source>Whose messages the views show. Everything is counted, whoever sends it.</source>
+        <translation>誰のメッセージを表示するか。送信元に関係なくすべて数えます。</translation>
+    </message>
+    <message>
+        <source>Only sender %1</source>
+        <translation>送信元 %1 のみ</translation>
+    </message>
+    <message>
+        <source>All %1 senders: the last one wins</source>
+        <translation>%1 個の送信元すべて: 最後のものが有効</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::SendersPanel</name>
+    <message>
+        <source>Here stands each sender with what it has sent and what was lost, once messages with sequence numbers come.</source>
+        <translation>連番付きのメッセージが届くと、各送信元が送ったものと失われたものがここに並びます。</translation>
+    </message>
+    <message>
+        <source>Senders</source>
+        <translation>送信元</translation>
+    </message>
+    <message>
+        <source>Sender</source>
+        <translation>送信元</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>フレーム</translation>
+    </message>
+    <message>
+        <source>Places with losses</source>
+        <translation>消失のあった箇所</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>消失</translation>
+    </message>
+    <message>
+        <source>CRC errors</source>
+        <translation>CRC エラー</translation>
+    </message>
+    <message>
+        <source>Below a sender: the message types that its damaged frames claim to be of</source>
+        <translation>送信元の下: その破損フレームが名乗るメッセージ型</translation>
+    </message>
+    <message>
+        <source>Messages missing by their sequence numbers</source>
+        <translation>連番から見て欠けているメッセージ</translation>
+    </message>
+    <message>
+        <source>Enter or a double click shows the messages of one sender only</source>
+        <translation>Enter またはダブルクリックで、一つの送信元のメッセージだけを表示します</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::Session</name>
+    <message>
+        <source>An MCAP file brings its own definitions. Leave out --definitions and --root.</source>
+        <translation>MCAP ファイルには定義が含まれています。--definitions と --root を省いてください。</translation>
+    </message>
+    <message>
+        <source>Definitions of different formats cannot be mixed.</source>
+        <translation>異なる形式の定義は混ぜられません。</translation>
+    </message>
+    <message>
+        <source>--root and --import-path go with definitions of Protocol Buffers.</source>
+        <translation>--root と --import-path は Protocol Buffers の定義とともに使います。</translation>
+    </message>
+    <message>
+        <source>--framing %1 does not go with %2; expected one of: %3.</source>
+        <translation>--framing %1 は %2 に使えません。次のいずれかにしてください: %3。</translation>
+    </message>
+    <message>
+        <source>Opened %1.</source>
+        <translation>%1 を開きました。</translation>
+    </message>
+    <message>
+        <source>%1 has ended.</source>
+        <translation>%1 は終わりました。</translation>
+    </message>
+    <message>
+        <source>Cannot record to &quot;%1&quot;: it is the file that is being read. Choose another name.</source>
+        <translation>「%1」に記録できません: 読み取り中のファイルです。別の名前を選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::StatisticsPanel</name>
+    <message>
+        <source>Here stand count, rate, intervals and gaps of each message type, once messages come.</source>
+        <translation>メッセージが届くと、各メッセージ型の回数、レート、間隔、欠落がここに並びます。</translation>
+    </message>
+    <message>
+        <source>Reception statistics</source>
+        <translation>受信統計</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::StatusFigures</name>
+    <message>
+        <source>Bytes that have come and wait to be read. A figure that grows says that more comes than can be shown.</source>
+        <translation>届いて読み取りを待つバイト。増え続ける場合は、表示できる以上に届いています。</translation>
+    </message>
+    <message>
+        <source>The longest time in the last 5 seconds in which the window did not react, because it was busy with messages or drawing</source>
+        <translation>過去 5 秒間で、ウィンドウがメッセージや描画で忙しく反応しなかった最長の時間</translation>
+    </message>
+    <message>
+        <source>Longest round: %1 ms</source>
+        <translation>最長の処理: %1 ミリ秒</translation>
+    </message>
+    <message>
+        <source>Messages: %1 (%2 per second)</source>
+        <translation>メッセージ: %1（毎秒 %2)</translation>
+    </message>
+    <message>
+        <source>, CRC errors: %1</source>
+        <translation>、CRC エラー: %1</translation>
+    </message>
+    <message>
+        <source>, unknown: %1</source>
+        <translation>、未知: %1</translation>
+    </message>
+    <message>
+        <source>, datagrams dropped: %1</source>
+        <translation>、破棄されたデータグラム: %1</translation>
+    </message>
+    <message>
+        <source>Paused, new: %1; </source>
+        <translation>一時停止、新着: %1。</translation>
+    </message>
+    <message>
+        <source>Backlog: %1</source>
+        <translation>未処理: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::TransportBar</name>
+    <message>
+        <source>Playback</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Ctrl+Space</source>
+        <translation>Ctrl+Space</translation>
+    </message>
+    <message>
+        <source>Next Message</source>
+        <translation>次のメッセージ</translation>
+    </message>
+    <message>
+        <source>Ctrl+.</source>
+        <translation>Ctrl+.</translation>
+    </message>
+    <message>
+        <source>Read on to the next message (Right, %1)</source>
+        <translation>次のメッセージまで読みます（右、%1)</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>How fast the recording is played</source>
+        <translation>記録を再生する速さ</translation>
+    </message>
+    <message>
+        <source>%1 x</source>
+        <translation>%1 x</translation>
+    </message>
+    <message>
+        <source>No waiting</source>
+        <translation>待たない</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>The place in the recording</source>
+        <translation>記録の中の位置</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Indexing</source>
+        <translation>索引の作成</translation>
+    </message>
+    <message>
+        <source>How much of the file has been indexed: places behind cannot be reached yet</source>
+        <translation>ファイルの索引済みの範囲: その先へはまだ移動できません</translation>
+    </message>
+    <message>
+        <source>Indexing: %p %</source>
+        <translation>索引の作成: %p %</translation>
+    </message>
+    <message>
+        <source>Stop Indexing</source>
+        <translation>索引の作成を停止</translation>
+    </message>
+    <message>
+        <source>Places that have not been indexed cannot be reached then</source>
+        <translation>索引のない箇所へは移動できなくなります</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>%1 (Space, %2)</source>
+        <translation>%1（スペース、%2)</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::TreeHistory</name>
+    <message>
+        <source>&amp;History</source>
+        <translation>履歴(&amp;H)</translation>
+    </message>
+    <message>
+        <source>A small line of the last 15 seconds of each numeric field</source>
+        <translation>各数値フィールドの過去 15 秒の小さな線</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ViewSettings</name>
+    <message>
+        <source>10 Times a Second</source>
+        <translation>毎秒 10 回</translation>
+    </message>
+    <message>
+        <source>4 Times a Second</source>
+        <translation>毎秒 4 回</translation>
+    </message>
+    <message>
+        <source>Once a Second</source>
+        <translation>毎秒 1 回</translation>
+    </message>
+    <message>
+        <source>Every 5 Seconds</source>
+        <translation>5 秒ごと</translation>
+    </message>
+    <message>
+        <source>Times in &amp;UTC</source>
+        <translation>時刻を UTC で(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Show times in UTC instead of this machine&apos;s time zone</source>
+        <translation>時刻をこのコンピューターのタイムゾーンではなく UTC で表示します</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>拡大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Larger text in the views</source>
+        <translation>表示の文字を大きくします</translation>
+    </message>
+    <message>
+        <source>Ctrl++</source>
+        <translation>Ctrl++</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>縮小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Smaller text in the views</source>
+        <translation>表示の文字を小さくします</translation>
+    </message>
+    <message>
+        <source>Ctrl+-</source>
+        <translation>Ctrl+-</translation>
+    </message>
+    <message>
+        <source>&amp;Normal Size</source>
+        <translation>標準の大きさ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Text of the usual size in the views</source>
+        <translation>表示の文字を通常の大きさにします</translation>
+    </message>
+    <message>
+        <source>Ctrl+0</source>
+        <translation>Ctrl+0</translation>
+    </message>
+    <message>
+        <source>How often counts and statistics are refreshed</source>
+        <translation>回数と統計を更新する頻度</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh of Counts</source>
+        <translation>回数の更新(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::WatchPanel</name>
+    <message>
+        <source>Type the path of a field and press Enter, or pick one and press Watch.</source>
+        <translation>フィールドのパスを入力して Enter を押すか、一つ選んで「監視」を押してください。</translation>
+    </message>
+    <message>
+        <source>Path of a field</source>
+        <translation>フィールドのパス</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>Message type</source>
+        <translation>メッセージ型</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>フィールド</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>監視</translation>
+    </message>
+    <message>
+        <source>Add the chosen fields</source>
+        <translation>選んだフィールドを追加します</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>Move the current row up</source>
+        <translation>現在の行を上へ移動します</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下へ</translation>
+    </message>
+    <message>
+        <source>Move the current row down</source>
+        <translation>現在の行を下へ移動します</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Stop watching the current row (Delete)</source>
+        <translation>現在の行の監視をやめます (Delete)</translation>
+    </message>
+    <message>
+        <source>Watched fields</source>
+        <translation>監視中のフィールド</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Stop Watching</source>
+        <translation>監視をやめる</translation>
+    </message>
+    <message>
+        <source>No field is named &quot;%1&quot;. A path is FORMAT.MESSAGE.FIELD; * stands for any text.</source>
+        <translation>「%1」というフィールドはありません。パスは FORMAT.MESSAGE.FIELD で、* は任意の文字列です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names more than %2 fields; name fewer.</source>
+        <translation>「%1」は %2 個を超えるフィールドを指します。絞ってください。</translation>
+    </message>
+    <message>
+        <source>Not described by the loaded definitions</source>
+        <translation>読み込まれた定義に記述がありません</translation>
+    </message>
+    <message>
+        <source>Not received yet</source>
+        <translation>まだ受信していません</translation>
+    </message>
+    <message>
+        <source>Timed out</source>
+        <translation>期限切れ</translation>
+    </message>
+    <message>
+        <source>Absent in the last message</source>
+        <translation>最後のメッセージにありません</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>最新</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::Workbench</name>
+    <message>
+        <source>Corvane Inspector</source>
+        <translation>Corvane インスペクター</translation>
+    </message>
+    <message>
+        <source>End of %1</source>
+        <translation>%1 の終わり</translation>
+    </message>
+</context>
+</TS>
