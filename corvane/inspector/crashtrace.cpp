@@ -35,10 +35,10 @@ std::array<char, handlerStackBytes> handlerStack;
 std::array<char, 4096> crashFile{};
 QtMessageHandler earlierMessageHandler = nullptr;
 
-QString tr(const char *text)
+struct CrashTrace
 {
-    return QCoreApplication::translate("corvane::CrashTrace", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(corvane::CrashTrace)
+};
 
 QString namePattern()
 {
@@ -170,10 +170,12 @@ void offerCrashTraces(NoticeArea &notices, const QString &folder)
         for (const QString &file : findCrashTraces(folder))
             QFile::remove(file);
     };
-    notices.say(QStringLiteral("crashNotice"),
-                tr("The program has crashed before. What it did last is written in \"%1\".")
-                    .arg(files.constFirst()),
-                {{tr("Open &Folder"), openFolder}, {tr("&Delete"), deleteAll}}, tr("Later"));
+    notices.say(
+        QStringLiteral("crashNotice"),
+        CrashTrace::tr("The program has crashed before. What it did last is written in \"%1\".")
+            .arg(files.constFirst()),
+        {{CrashTrace::tr("Open &Folder"), openFolder}, {CrashTrace::tr("&Delete"), deleteAll}},
+        CrashTrace::tr("Later"));
 }
 
 } // namespace corvane

@@ -212,7 +212,6 @@ void MainWindow::createPanels()
     bytes = new BytesPanel(*latest);
     tabifyDockWidget(
         watchDock, addPanel(bytes, QStringLiteral("bytes"), tr("Bytes"), Qt::RightDockWidgetArea));
-    formDock->raise();
 
     Reception &reception = session.getReception();
     statistics = new StatisticsPanel(*reception.getStatistics());

@@ -1,6 +1,5 @@
 #include "settingsfile.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
@@ -74,11 +73,6 @@ constexpr std::array knownKeys{
     KnownKey{"recentSources/*/framing", Kind::Text},
     KnownKey{"recentSources/*/root", Kind::Text},
 };
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("corvane::SettingsFile", text);
-}
 
 QString sealKeyOf(const QString &key)
 {
@@ -167,19 +161,19 @@ QString findProblem(const QString &path)
     if (!file.exists())
         return {};
     if (!file.open(QIODevice::ReadOnly))
-        return tr("it cannot be read (%1)").arg(file.errorString());
+        return SettingsFile::tr("it cannot be read (%1)").arg(file.errorString());
     if (file.size() > largestFileBytes)
-        return tr("it is too large");
+        return SettingsFile::tr("it is too large");
     const QByteArray content = file.readAll();
     QStringDecoder decoder(QStringDecoder::Utf8);
     [[maybe_unused]] const QString text = decoder(content);
     if (decoder.hasError() || content.contains('\0'))
-        return tr("it is no text");
+        return SettingsFile::tr("it is no text");
     if (!areSettingsLines(content))
-        return tr("it is no settings file");
+        return SettingsFile::tr("it is no settings file");
     // They can claim any size, for which Qt would take memory before it looks at what is there.
     if (content.contains("@Variant(") || content.contains("@DateTime("))
-        return tr("it holds what this program does not write");
+        return SettingsFile::tr("it holds what this program does not write");
     return {};
 }
 

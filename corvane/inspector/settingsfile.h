@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <memory>
@@ -18,6 +19,8 @@ namespace corvane {
  */
 class SettingsFile
 {
+    Q_DECLARE_TR_FUNCTIONS(corvane::SettingsFile)
+
 public:
     /** \a path need not exist. */
     explicit SettingsFile(const QString &path);

@@ -6,6 +6,7 @@
 #include "testcase.h"
 #include "workbench.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void panel_saysWhatIsMissing();
     void panel_readsEveryKindBack_data();
     void panel_readsEveryKindBack();
+    void panel_fitsASmallScreen();
+    void panel_controlsHaveNames();
     void panel_sortsDroppedFiles();
     void panel_asksBeforeAProgramStarts();
     void panel_recentProgram_isNotStartedUnasked();
@@ -183,6 +186,34 @@ void tst_workbench::panel_readsEveryKindBack()
     const SourceChoice choice{source, {"d.xml", "e.xml"}, {"o.json"}, "le32", "p.T"};
     panel.setChoice(choice);
     QCOMPARE(panel.getChoice(), choice);
+}
+
+void tst_workbench::panel_fitsASmallScreen()
+{
+    const auto settings = newSettings();
+    OpenPanel panel(*settings);
+    panel.setChoice({"/some/file.tlog", {}, {}, {}, {}});
+    panel.open(); // says what is missing
+    panel.show();
+    panel.resize(800, 500);
+    QCoreApplication::processEvents();
+    QCOMPARE(panel.size(), QSize(800, 500));
+    for (const QPushButton *button : panel.findChildren<QPushButton *>())
+        QVERIFY2(panel.rect().contains(QRect(button->mapTo(&panel, QPoint()), button->size())),
+                 qPrintable(button->text()));
+}
+
+void tst_workbench::panel_controlsHaveNames()
+{
+    const auto settings = newSettings();
+    OpenPanel panel(*settings);
+    panel.show();
+    for (QWidget *widget : panel.findChildren<QWidget *>()) {
+        if (!widget->isVisible() || (widget->focusPolicy() & Qt::TabFocus) == 0)
+            continue;
+        const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY2(!interface->text(QAccessible::Name).isEmpty(), widget->metaObject()->className());
+    }
 }
 
 void tst_workbench::panel_sortsDroppedFiles()
