@@ -345,6 +345,7 @@ void MainWindow::connectRowActions()
     RowActions *actions = tree->getRowActions();
     actions->setPlotAvailable(plot != nullptr);
     connect(tree, &MessageTreePanel::placeChosen, bytes, &BytesPanel::setPlace);
+    connect(latest, &LatestMessages::senderChanged, bytes, &BytesPanel::clearMessage);
     connect(bytes, &BytesPanel::placeActivated, tree, &MessageTreePanel::goTo);
     connect(actions, &RowActions::watchRequested, this, [this](const QString &path) {
         watch->watch(path);
@@ -387,8 +388,8 @@ void MainWindow::applyViewSettings()
     transport->setUtc(viewSettings->isUtc());
     QFont viewFont = font();
     viewFont.setPointSizeF(viewFont.pointSizeF() * viewSettings->getZoom() / 100.0);
-    for (QWidget *view :
-         std::initializer_list<QWidget *>{typeView, tree, form, watch, statistics, senders, events})
+    for (QWidget *view : std::initializer_list<QWidget *>{typeView, tree, form, watch, bytes,
+                                                          statistics, senders, events})
         view->setFont(viewFont);
     if (plot == nullptr)
         return;

@@ -56,6 +56,12 @@ void BytesPanel::setType(const MessageInfo *type, const Message *newMessage)
         setPlace(RowPlace{type, {}}, newMessage);
 }
 
+void BytesPanel::clearMessage()
+{
+    setMessage(nullptr);
+    refresh();
+}
+
 void BytesPanel::processMessage(const Message *newMessage)
 {
     if (!place || newMessage->getInfo() != place->type)

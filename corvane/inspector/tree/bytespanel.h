@@ -28,6 +28,8 @@ public:
     void setPlace(const std::optional<RowPlace> &place, const Message *message);
     /** The same for a whole message; nothing changes if a place in one of that type is shown. */
     void setType(const MessageInfo *type, const Message *message);
+    /** Forgets the message, but not what is looked at in the next one. */
+    void clearMessage();
 
 Q_SIGNALS:
     /** People want to see the field that a byte belongs to. */

@@ -30,7 +30,7 @@ private Q_SLOTS:
 
 namespace {
 
-const QStringList panelNames{"types",  "form",    "watch", "statistics",
+const QStringList panelNames{"types",  "form",    "bytes", "watch", "statistics",
                              "events", "senders", "plot",  "help"};
 
 QDockWidget *raised(const ShownWindow &shown, const QString &name)
