@@ -364,8 +364,8 @@ void MainWindow::connectRowActions()
     RowActions *actions = tree->getRowActions();
     actions->setPlotAvailable(plot != nullptr);
     connect(tree, &MessageTreePanel::placeChosen, bytes, &BytesPanel::setPlace);
+    connect(latest, &LatestMessages::senderChanged, bytes, &BytesPanel::clearMessage);
     connect(bytes, &BytesPanel::placeActivated, tree, &MessageTreePanel::goTo);
-    connect(latest, &LatestMessages::senderChanged, bytes, &BytesPanel::clear);
     connect(actions, &RowActions::watchRequested, this, [this](const QString &path) {
         watch->watch(path);
         raisePanel(watch);

@@ -393,6 +393,7 @@ void MessageTreePanel::refreshRowState()
     if (text.isEmpty() && tree->topLevelItemCount() > 0)
         text = tr("Choose a row to read about it here, and press the right mouse button or the "
                   "menu key for what can be done with it.");
+    text = SteadyTreeWidget::shortened(text);
     if (text == rowState->text())
         return;
     rowState->setText(text);

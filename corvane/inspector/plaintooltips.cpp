@@ -1,6 +1,7 @@
 #include "plaintooltips.h"
 
 #include "inspectortree.h"
+#include "plainmarkup.h"
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
@@ -10,27 +11,6 @@
 namespace corvane {
 
 namespace {
-
-/** Characters that mean something to a text document, or nothing to anybody. */
-bool isUnfit(QChar character)
-{
-    if (character == QLatin1Char('\n') || character == QLatin1Char('\t'))
-        return false;
-    return character.category() == QChar::Other_Control
-           || character.category() == QChar::Other_NotAssigned
-           || character == QChar::ObjectReplacementCharacter;
-}
-
-/** Markup that shows \a text, so that a long one is wrapped. */
-QString markupOf(const QString &text)
-{
-    QString plain = SteadyTreeWidget::shortened(text);
-    for (QChar &character : plain)
-        if (isUnfit(character))
-            character = QChar::ReplacementCharacter;
-    return QStringLiteral("<p style=\"white-space: pre-wrap\">") + plain.toHtmlEscaped()
-           + QStringLiteral("</p>");
-}
 
 /** The view that shows its cells in \a widget, or null. */
 const QAbstractItemView *viewOf(const QWidget *widget)
@@ -63,7 +43,7 @@ bool PlainToolTips::eventFilter(QObject *object, QEvent *event)
     }
     if (text.isEmpty())
         return false;
-    QToolTip::showText(help->globalPos(), markupOf(text), widget, area);
+    QToolTip::showText(help->globalPos(), plainMarkup(text), widget, area);
     return true;
 }
 

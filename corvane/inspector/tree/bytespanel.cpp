@@ -56,17 +56,17 @@ void BytesPanel::setType(const MessageInfo *type, const Message *newMessage)
         setPlace(RowPlace{type, {}}, newMessage);
 }
 
+void BytesPanel::clearMessage()
+{
+    setMessage(nullptr);
+    refresh();
+}
+
 void BytesPanel::processMessage(const Message *newMessage)
 {
     if (!place || newMessage->getInfo() != place->type)
         return;
     setMessage(newMessage);
-    refresh();
-}
-
-void BytesPanel::clear()
-{
-    setMessage(nullptr);
     refresh();
 }
 

@@ -24,12 +24,12 @@ public:
     explicit BytesPanel(MessageSource &messages, QWidget *parent = nullptr);
     ~BytesPanel() override;
 
-    /** Forgets the message and waits for the next one of the same type. */
-    void clear();
     /** Shows \a message, which is of the place's type or null, and marks the place in it. */
     void setPlace(const std::optional<RowPlace> &place, const Message *message);
     /** The same for a whole message; nothing changes if a place in one of that type is shown. */
     void setType(const MessageInfo *type, const Message *message);
+    /** Forgets the message, but not what is looked at in the next one. */
+    void clearMessage();
 
 Q_SIGNALS:
     /** People want to see the field that a byte belongs to. */

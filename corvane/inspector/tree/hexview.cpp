@@ -28,7 +28,11 @@ HexView::HexView(QWidget *parent)
     : QAbstractScrollArea(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    // Of its family alone, so that the size is that of the text around it.
+    QFont fixed;
+    fixed.setFamilies(QFontDatabase::systemFont(QFontDatabase::FixedFont).families());
+    fixed.setStyleHint(QFont::Monospace);
+    setFont(fixed);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     viewport()->setCursor(Qt::IBeamCursor);
     viewport()->setBackgroundRole(QPalette::Base);

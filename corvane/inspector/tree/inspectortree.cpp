@@ -2,6 +2,7 @@
 
 #include "descriptions.h"
 #include "expansion.h"
+#include "plainmarkup.h"
 #include "rowdescription.h"
 #include "rowplace.h"
 #include "singlevaluefieldtreewidgetitem.h"
@@ -169,11 +170,8 @@ bool InspectorTree::showToolTip(const QPoint &position, const QPoint &globalPosi
     const QStringList sentences = describeRow(row);
     if (sentences.isEmpty())
         return false;
-    QString text = sentences.join(QLatin1Char('\n')).toHtmlEscaped();
-    text.replace(QLatin1Char('\n'), QStringLiteral("<br>"));
-    // As rich text it is wrapped. Belonging to the viewport, it would keep the base from skipping
-    // layouts.
-    QToolTip::showText(globalPosition, QStringLiteral("<p>%1</p>").arg(text), this);
+    // Belonging to the viewport, it would keep the base from skipping layouts.
+    QToolTip::showText(globalPosition, plainMarkup(sentences.join(QLatin1Char('\n'))), this);
     return true;
 }
 

@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -215,10 +216,11 @@ void RowActions::copyPath(const Target &target)
 
 void RowActions::copyRow(const Target &target)
 {
+    static const QRegularExpression breaks(QStringLiteral("[\\t\\r\\n]")); // of the table
     QStringList texts;
     for (int column = 0; column < tree.columnCount(); ++column)
         if (!tree.isColumnHidden(column))
-            texts += target.row->text(column);
+            texts += target.row->text(column).replace(breaks, QStringLiteral(" "));
     copy(texts.join(QLatin1Char('\t')));
 }
 

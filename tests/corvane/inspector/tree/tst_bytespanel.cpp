@@ -27,6 +27,7 @@ private Q_SLOTS:
     void message_isShownWithTheFieldMarked_data();
     void message_isShownWithTheFieldMarked();
     void newMessages_areFollowed();
+    void clearedMessage_keepsThePlace();
     void type_replacesThePlaceInAnother();
     void byte_tellsItsFieldAndGoesThere();
     void hiddenPanel_catchesUpWhenShown();
@@ -158,6 +159,17 @@ void tst_bytespanel::newMessages_areFollowed()
     shown.panel.setPlace(std::nullopt, nullptr);
     Q_EMIT shown.source.newMessage(first.get());
     QVERIFY(shown.heading().startsWith("Choose"));
+}
+
+void tst_bytespanel::clearedMessage_keepsThePlace()
+{
+    Shown shown;
+    const FrameMessage message = shown.message(payload);
+    shown.panel.setPlace(shown.place("big"), message.get());
+    shown.panel.clearMessage();
+    QCOMPARE(shown.heading(), "STATE: no message of this type has come yet.");
+    Q_EMIT shown.source.newMessage(message.get());
+    QCOMPARE(shown.heading(), "STATE: 21 bytes. big: offset 10, length 4.");
 }
 
 void tst_bytespanel::type_replacesThePlaceInAnother()

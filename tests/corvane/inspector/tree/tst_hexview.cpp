@@ -25,6 +25,7 @@ private Q_SLOTS:
     void marked_isPaintedAndScrolledTo();
     void newBytes_keepTheSelectionThatIsLeft();
     void noBytes_doNoHarm();
+    void size_isThatOfTheTextAround();
     void colours_areThoseOfThePalette();
 };
 
@@ -195,6 +196,17 @@ void tst_hexview::noBytes_doNoHarm()
     QCOMPARE(QApplication::clipboard()->text(), "before");
     shown.view.setMarked({{7, 1}}); // of a longer message
     shown.view.grab();
+}
+
+void tst_hexview::size_isThatOfTheTextAround()
+{
+    QWidget around;
+    HexView view(&around);
+    QFont large = around.font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    around.setFont(large);
+    QCOMPARE(view.font().pointSizeF(), large.pointSizeF());
+    QVERIFY(QFontInfo(view.font()).fixedPitch());
 }
 
 void tst_hexview::colours_areThoseOfThePalette()

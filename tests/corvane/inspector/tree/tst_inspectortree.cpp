@@ -2,6 +2,7 @@
 #include "inspectortree.h"
 #include "messagetreefilter.h"
 #include "messagetreewidgetitem.h"
+#include "plainmarkup.h"
 #include "rowdescription.h"
 #include "testcase.h"
 #include "testformat.h"
@@ -205,7 +206,7 @@ void tst_inspectortree::toolTip_describesTheRow()
     const QPoint place = shown.tree.visualItemRect(shown.at("height")).center();
     QHelpEvent help(QEvent::ToolTip, place, shown.tree.viewport()->mapToGlobal(place));
     QApplication::sendEvent(shown.tree.viewport(), &help);
-    QCOMPARE(QToolTip::text(), "<p>Demo.Position.height<br>double in m<br>Above the ground</p>");
+    QCOMPARE(QToolTip::text(), plainMarkup("Demo.Position.height\ndouble in m\nAbove the ground"));
     QToolTip::hideText();
 }
 
