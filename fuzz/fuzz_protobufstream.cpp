@@ -12,6 +12,9 @@ using namespace corvane::fuzz;
 
 namespace {
 
+// Each byte can be a message, and messages are printed.
+constexpr qsizetype maximumSize = 512;
+
 ProtobufFormat &format()
 {
     static auto *const definitions
@@ -43,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t count)
     const bool isVarint = (options & 1) == 0;
     const QString framing = isVarint ? QStringLiteral("varint") : QStringLiteral("le32");
     const qsizetype pieceSize = 1 + input.takeByte();
-    QByteArray stream = input.takeRest();
+    QByteArray stream = input.takeRest().left(maximumSize);
     if ((options & 2) != 0)
         stream = isVarint ? test::framedVarint(stream) : test::framedLittleEndian(stream);
 

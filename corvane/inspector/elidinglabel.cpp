@@ -20,7 +20,7 @@ ElidingLabel::ElidingLabel(QWidget *parent)
 void ElidingLabel::say(const QString &text)
 {
     setText(text);
-    setToolTip(text.toHtmlEscaped());
+    setToolTip(text);
 }
 
 QSize ElidingLabel::minimumSizeHint() const

@@ -85,6 +85,7 @@ void EventLogPanel::createTable()
     table->setMinimumHeight(fontMetrics().height() * 3);
     table->setWordWrap(false);
     table->setShowGrid(false);
+    table->setTabKeyNavigation(false); // Tab leads on to the next control
     table->setAlternatingRowColors(true);
     table->verticalHeader()->hide();
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

@@ -48,6 +48,7 @@ FormPanel::FormPanel(const LatestMessages &latest, QWidget *parent)
     contentLayout->addWidget(form);
     contentLayout->addStretch(1); // a short form stays at the top instead of spreading
     auto *formArea = new QScrollArea(this);
+    formArea->setAccessibleName(tr("Form"));
     formArea->setWidgetResizable(true);
     formArea->setFrameShape(QFrame::NoFrame);
     formArea->setWidget(content);

@@ -1,17 +1,21 @@
+#include "crashtrace.h"
 #include "eventroundprobe.h"
 #include "exportcommand.h"
+#include "icons.h"
 #include "inspectortranslations.h"
+#include "noticearea.h"
 #include "options.h"
 #include "report.h"
 #include "session.h"
+#include "settingsfile.h"
 #include "workbench.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QSettings>
 #include <QTimer>
 #include <QWidget>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -105,39 +109,38 @@ void writeScreenshotLater(const corvane::Workbench &workbench, const Options &op
 
 int runWindow(const Options &options)
 {
-    QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("corvane"),
-                       QStringLiteral("corvane-inspector"));
-    corvane::Workbench workbench(options, settings);
-    if (options.source) {
+    corvane::keepTrace(corvane::getCrashFolder());
+    QApplication::setWindowIcon(corvane::makeProgramIcon());
+    corvane::SettingsFile settings(corvane::SettingsFile::getDefaultPath());
+    corvane::Workbench workbench(options, settings.get());
+    if (!options.source) {
+        workbench.showOpenPanel();
+    } else if (options.lacksDefinitions()) {
+        workbench.askForDefinitions(options);
+    } else {
         const QStringList errors = workbench.open(options);
         if (!errors.isEmpty())
             return complain(errors.join(QLatin1Char('\n')));
-    } else {
-        workbench.showOpenPanel();
     }
+    if (!settings.getNotice().isEmpty())
+        workbench.getNotices().say(QStringLiteral("settingsNotice"), settings.getNotice());
     if (!options.screenshotFile.isEmpty())
         writeScreenshotLater(workbench, options);
+    else
+        corvane::offerCrashTraces(workbench.getNotices(), corvane::getCrashFolder());
     return QApplication::exec();
 }
 
-/** A screenshot needs no display; a window for people does. */
-void chooseOffscreenPlatform(const Options &options)
+bool hasDisplay(const QStringList &arguments)
 {
-    const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY")
-                            || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
-                            || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    if (!options.screenshotFile.isEmpty() && !hasDisplay)
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+           || qEnvironmentVariableIsSet("QT_QPA_PLATFORM")
+           || arguments.contains(QLatin1String("-platform"))
+           || arguments.contains(QLatin1String("--platform"));
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+int run(const Options &options)
 {
-    // The arguments decide which kind of application is made, so they are read before.
-    const Options options = Options::parse(argumentsOf(argc, argv));
-    QCoreApplication::setApplicationName(QStringLiteral("corvane-inspector"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));
     switch (options.wish) {
     case Options::Wish::Complain:
         return complain(options.error);
@@ -150,17 +153,49 @@ int main(int argc, char *argv[])
     case Options::Wish::Run:
         break;
     }
-    if (options.report != Options::Report::None) {
-        const QCoreApplication application(argc, argv);
+    if (options.report != Options::Report::None)
         return runReport(options);
-    }
     if (options.exportFormat) {
-        const QCoreApplication application(argc, argv);
         const QString error = corvane::runExport(options);
         return error.isEmpty() ? 0 : complain(error);
     }
-    chooseOffscreenPlatform(options);
-    const QApplication application(argc, argv);
     corvane::installInspectorTranslations();
     return runWindow(options);
+}
+
+/** Whether an argument looks like the options of Qt, which have one dash before a word. */
+bool hasQtOption(const QStringList &arguments)
+{
+    return std::any_of(arguments.begin(), arguments.end(), [](const QString &argument) {
+        return argument.size() > 2 && argument.startsWith(QLatin1Char('-'))
+               && argument.at(1).isLetter();
+    });
+}
+
+/** Whether \a options, as far as \a arguments are ours, need no window. */
+bool needsNoWindow(const Options &options, const QStringList &arguments)
+{
+    if (options.wish == Options::Wish::Complain)
+        return !hasDisplay(arguments) || !hasQtOption(arguments);
+    return options.wish != Options::Wish::Run || !options.opensWindow();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication::setApplicationName(QStringLiteral("corvane-inspector"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));
+    // The arguments decide which kind of application is made, so they are read before.
+    const QStringList arguments = argumentsOf(argc, argv);
+    const Options options = Options::parse(arguments);
+    if (needsNoWindow(options, arguments)) {
+        const QCoreApplication application(argc, argv);
+        return run(options);
+    }
+    if (!hasDisplay(arguments) && !options.screenshotFile.isEmpty())
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // a picture needs no display
+    // It takes its own options away; what is left must be ours.
+    const QApplication application(argc, argv);
+    return run(Options::parse(argumentsOf(argc, argv)));
 }

@@ -1,24 +1,30 @@
 #include "mainwindow.h"
 
 #include "abstractplotpanel.h"
+#include "bytespanel.h"
+#include "collapsedtypes.h"
 #include "confidentialswitch.h"
 #include "elidinglabel.h"
 #include "eventlogpanel.h"
 #include "exportbar.h"
 #include "exportcontroller.h"
 #include "formpanel.h"
+#include "helppanel.h"
 #include "hostfeed.h"
 #include "icons.h"
 #include "latestmessages.h"
+#include "message.h"
 #include "messageinfo.h"
 #include "messagestatistics.h"
 #include "messagetreepanel.h"
 #include "messagetypemodel.h"
 #include "noticearea.h"
 #include "recordcontroller.h"
+#include "rowactions.h"
 #include "senderchooser.h"
 #include "senderspanel.h"
 #include "session.h"
+#include "settingsfile.h"
 #include "statisticspanel.h"
 #include "statusfigures.h"
 #include "transportbar.h"
@@ -31,6 +37,7 @@
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
 #include <QSortFilterProxyModel>
@@ -53,6 +60,11 @@ QString layoutKey()
     return QStringLiteral("window/layout");
 }
 
+QString typesKey()
+{
+    return QStringLiteral("window/types");
+}
+
 } // namespace
 
 MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
@@ -69,12 +81,15 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     , exports(new ExportController(session, this))
 {
     setDockNestingEnabled(true);
+    setIconSize(QSize(20, 20));
     setAcceptDrops(true);
     createTypeView();
     createActions();
     createMenus();
     createToolBar();
+    createNoticeBar();
     createPanels();
+    createHelp();
     createStatusBar();
     connectAll();
     resize(fontMetrics().averageCharWidth() * 230, fontMetrics().height() * 55);
@@ -133,7 +148,25 @@ void MainWindow::createToolBar()
     senderChooser = new SenderChooser(session.getReception().getSenders(), bar);
     senderAction = bar->addWidget(senderChooser);
     addToolBar(bar);
+    bar->toggleViewAction()->setToolTip(tr("Show or hide the tool bar"));
     viewMenu->addAction(bar->toggleViewAction());
+}
+
+/** Over the whole width, so that most texts take one line. */
+void MainWindow::createNoticeBar()
+{
+    noticeBar = new QToolBar(tr("Notices"), this);
+    noticeBar->setObjectName(QStringLiteral("notices"));
+    noticeBar->setMovable(false);
+    noticeBar->toggleViewAction()->setVisible(false);
+    QAction *shown = noticeBar->addWidget(notices);
+    addToolBarBreak();
+    addToolBar(noticeBar);
+    noticeBar->hide();
+    connect(notices, &NoticeArea::filled, this, [this, shown](bool hasNotices) {
+        shown->setVisible(hasNotices);
+        noticeBar->setVisible(hasNotices);
+    });
 }
 
 void MainWindow::createMenus()
@@ -145,6 +178,7 @@ void MainWindow::createMenus()
     fileMenu->addSeparator();
     QAction *quit = fileMenu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence::Quit);
+    quit->setToolTip(tr("Close the window; what it shows is remembered"));
     viewMenu = menuBar()->addMenu(tr("&View"));
     viewMenu->addAction(pauseAction);
     viewMenu->addAction(confidential->getAction());
@@ -160,7 +194,6 @@ void MainWindow::createPanels()
     auto *centre = new QWidget(this);
     auto *column = new QVBoxLayout(centre);
     column->setContentsMargins({});
-    column->addWidget(notices);
     column->addWidget(exports->getBar());
     column->addWidget(tree, 1);
     setCentralWidget(centre);
@@ -168,6 +201,7 @@ void MainWindow::createPanels()
     addPanel(typeView, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
     transport = new TransportBar(this);
     addToolBar(Qt::BottomToolBarArea, transport);
+    transport->toggleViewAction()->setToolTip(tr("Show or hide the bar that plays recordings"));
     viewMenu->addAction(transport->toggleViewAction());
     watch = new WatchPanel(*latest);
     QDockWidget *formDock
@@ -175,6 +209,9 @@ void MainWindow::createPanels()
     QDockWidget *watchDock
         = addPanel(watch, QStringLiteral("watch"), tr("Watch"), Qt::RightDockWidgetArea);
     tabifyDockWidget(formDock, watchDock);
+    bytes = new BytesPanel(*latest);
+    tabifyDockWidget(
+        watchDock, addPanel(bytes, QStringLiteral("bytes"), tr("Bytes"), Qt::RightDockWidgetArea));
     formDock->raise();
 
     Reception &reception = session.getReception();
@@ -213,9 +250,47 @@ QDockWidget *MainWindow::addPanel(QWidget *panel,
     auto *dock = new QDockWidget(title, this);
     dock->setObjectName(name);
     dock->setWidget(panel);
+    dock->toggleViewAction()->setToolTip(tr("Show or hide the panel \"%1\"").arg(title));
     addDockWidget(area, dock);
     viewMenu->addAction(dock->toggleViewAction());
     return dock;
+}
+
+void MainWindow::createHelp()
+{
+    help = new HelpPanel;
+    helpDock = addPanel(help, QStringLiteral("help"), tr("Help"), Qt::RightDockWidgetArea);
+    tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("watch")), helpDock);
+    helpDock->hide();
+    raisePanel(form);
+    QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    QAction *contents
+        = menu->addAction(makeIcon(QStringLiteral("help-contents")), tr("&Uses and Keys"));
+    contents->setShortcut(QKeySequence::HelpContents);
+    contents->setToolTip(tr("What the window is for, and all keys"));
+    connect(contents, &QAction::triggered, this, &MainWindow::showHelp);
+    QAction *versions = menu->addAction(tr("&About"));
+    versions->setToolTip(tr("The versions of the program and of what it uses"));
+    connect(versions, &QAction::triggered, this, &MainWindow::showVersions);
+    for (QMenu *one : menuBar()->findChildren<QMenu *>())
+        one->setToolTipsVisible(true);
+}
+
+void MainWindow::showHelp()
+{
+    help->describe(*this);
+    helpDock->show();
+    helpDock->raise();
+    help->setFocus();
+}
+
+void MainWindow::showVersions()
+{
+    auto *box = new QMessageBox(QMessageBox::NoIcon, tr("About"), getVersionsText(),
+                                QMessageBox::Close, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setIconPixmap(makeProgramIcon().pixmap(64, 64));
+    box->open();
 }
 
 void MainWindow::restoreLayout()
@@ -223,6 +298,9 @@ void MainWindow::restoreLayout()
     // Qt refuses what it did not write itself, and leaves the window as it is then.
     restoreGeometry(settings.value(geometryKey()).toByteArray());
     restoreState(settings.value(layoutKey()).toByteArray());
+    noticeBar->setVisible(!notices->isEmpty());
+    typeView->header()->restoreState(settings.value(typesKey()).toByteArray());
+    restoreCollapsedTypes(settings, *session.getReception().getFormat());
     tree->restoreSettings(settings);
     watch->restoreSettings(settings);
     statistics->restoreSettings(settings);
@@ -234,11 +312,14 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     settings.setValue(geometryKey(), saveGeometry());
     settings.setValue(layoutKey(), saveState());
+    settings.setValue(typesKey(), typeView->header()->saveState());
+    saveCollapsedTypes(settings, *session.getReception().getFormat());
     tree->saveSettings(settings);
     watch->saveSettings(settings);
     statistics->saveSettings(settings);
     if (plot != nullptr)
         plot->saveSettings(settings);
+    SettingsFile::seal(settings);
     QMainWindow::closeEvent(event);
 }
 
@@ -273,9 +354,37 @@ void MainWindow::connectAll()
     connect(tree, &MessageTreePanel::typeChosen, this, &MainWindow::chooseType);
     connect(senders, &SendersPanel::senderChosen, senderChooser, &SenderChooser::choose);
     connect(senderChooser, &SenderChooser::chosen, this, &MainWindow::chooseSender);
+    connectRowActions();
     connect(pauseAction, &QAction::toggled, this, &MainWindow::setPaused);
     connect(&countsTimer, &QTimer::timeout, this, &MainWindow::refreshCounts);
     connect(viewSettings, &ViewSettings::changed, this, &MainWindow::applyViewSettings);
+}
+
+void MainWindow::connectRowActions()
+{
+    RowActions *actions = tree->getRowActions();
+    actions->setPlotAvailable(plot != nullptr);
+    connect(tree, &MessageTreePanel::placeChosen, bytes, &BytesPanel::setPlace);
+    connect(bytes, &BytesPanel::placeActivated, tree, &MessageTreePanel::goTo);
+    connect(latest, &LatestMessages::senderChanged, bytes, &BytesPanel::clear);
+    connect(actions, &RowActions::watchRequested, this, [this](const QString &path) {
+        watch->watch(path);
+        raisePanel(watch);
+    });
+    connect(actions, &RowActions::plotRequested, this, [this](const QString &path) {
+        plot->addSeries(path);
+        raisePanel(plot);
+    });
+    connect(actions, &RowActions::formRequested, this, [this] { raisePanel(form); });
+    connect(actions, &RowActions::bytesRequested, this, [this] { raisePanel(bytes); });
+}
+
+/** Shows the dock of \a panel, also where it was closed or lies behind others. */
+void MainWindow::raisePanel(QWidget *panel)
+{
+    auto *dock = qobject_cast<QDockWidget *>(panel->parentWidget());
+    dock->show();
+    dock->raise();
 }
 
 void MainWindow::setPaused(bool paused)
@@ -299,8 +408,8 @@ void MainWindow::applyViewSettings()
     transport->setUtc(viewSettings->isUtc());
     QFont viewFont = font();
     viewFont.setPointSizeF(viewFont.pointSizeF() * viewSettings->getZoom() / 100.0);
-    for (QWidget *view :
-         std::initializer_list<QWidget *>{typeView, tree, form, watch, statistics, senders, events})
+    for (QWidget *view : std::initializer_list<QWidget *>{typeView, tree, form, watch, statistics,
+                                                          senders, events, bytes})
         view->setFont(viewFont);
     if (plot == nullptr)
         return;
@@ -324,11 +433,14 @@ void MainWindow::showChosenType()
 {
     const QModelIndex index = sortedTypes->mapToSource(typeView->currentIndex());
     const MessageStatistics *chosen = types->getStatistics(index);
-    if (chosen != nullptr && chosen->getMessageInfo() != nullptr)
-        form->showType(chosen->getMessageInfo());
+    const MessageInfo *type = chosen != nullptr ? chosen->getMessageInfo() : nullptr;
+    if (type != nullptr)
+        form->showType(type);
     else
         form->showText(chosen != nullptr ? chosen->getMessageName() : QString(),
                        getPlaceholderText());
+    if (type != nullptr)
+        bytes->setType(type, latest->get(type));
 }
 
 void MainWindow::chooseType(const MessageInfo *type)

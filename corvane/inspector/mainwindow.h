@@ -11,6 +11,7 @@ class QDockWidget;
 class QMenu;
 class QSettings;
 class QSortFilterProxyModel;
+class QToolBar;
 class QTreeView;
 
 namespace corvane {
@@ -18,9 +19,11 @@ namespace corvane {
 class AbstractPlotPanel;
 class ConfidentialSwitch;
 class ElidingLabel;
+class BytesPanel;
 class EventLogPanel;
 class ExportController;
 class FormPanel;
+class HelpPanel;
 class LatestMessages;
 class MessageTreePanel;
 class MessageTypeModel;
@@ -70,8 +73,12 @@ private:
     void createActions();
     void createMenus();
     void createToolBar();
+    void createNoticeBar();
+    void createHelp();
     void createStatusBar();
     void connectAll();
+    void connectRowActions();
+    static void raisePanel(QWidget *panel);
     QDockWidget *
     addPanel(QWidget *panel, const QString &name, const QString &title, Qt::DockWidgetArea area);
     void restoreLayout();
@@ -81,6 +88,8 @@ private:
     void setPaused(bool paused);
     void chooseSender(std::optional<quint32> sender);
     void applyViewSettings();
+    void showHelp();
+    void showVersions();
     void refreshCounts();
     QString getPlaceholderText() const;
 
@@ -98,12 +107,16 @@ private:
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.
     WatchPanel *watch = nullptr; ///< Owned as a child.
+    BytesPanel *bytes = nullptr; ///< Owned as a child.
     StatisticsPanel *statistics = nullptr; ///< Owned as a child.
     EventLogPanel *events = nullptr; ///< Owned as a child.
     SendersPanel *senders = nullptr; ///< Owned as a child.
     AbstractPlotPanel *plot = nullptr; ///< Owned as a child; null in a build without it.
+    HelpPanel *help = nullptr; ///< Owned as a child.
+    QDockWidget *helpDock = nullptr; ///< Owned as a child.
     TransportBar *transport = nullptr; ///< Owned as a child.
     QMenu *viewMenu = nullptr; ///< Owned as a child.
+    QToolBar *noticeBar = nullptr; ///< Owned as a child.
     SenderChooser *senderChooser = nullptr; ///< Owned as a child.
     QAction *senderAction = nullptr; ///< Shows and hides the chooser. Owned as a child.
     QAction *openAction = nullptr; ///< Owned as a child.

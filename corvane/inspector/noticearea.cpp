@@ -32,6 +32,7 @@ void NoticeArea::say(const QString &name,
     // A line that only tells of progress keeps its buttons, and with them the focus.
     if (Notice *known = find(name); known != nullptr && known->buttonTexts == buttonTexts) {
         known->label->setText(text);
+        fitHeight();
         return;
     }
     withdraw(name);
@@ -39,6 +40,7 @@ void NoticeArea::say(const QString &name,
     line->setObjectName(name);
     line->setFrameShape(QFrame::StyledPanel);
     auto *lineLayout = new QHBoxLayout(line);
+    lineLayout->setContentsMargins(6, 2, 6, 2);
     QLabel *label = createLabel(text, line);
     lineLayout->addWidget(label, 1);
     for (const Button &button : buttons)
@@ -48,7 +50,7 @@ void NoticeArea::say(const QString &name,
     layout()->addWidget(line);
     notices.push_back({name, line, label, buttonTexts});
     line->show();
-    show();
+    refresh();
     QAccessibleEvent alert(label, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }
@@ -81,8 +83,33 @@ void NoticeArea::withdraw(const QString &name)
         return;
     known->line->hide();
     known->line->deleteLater();
+    layout()->removeWidget(known->line);
     notices.erase(notices.begin() + (known - notices.data()));
+    refresh();
+}
+
+void NoticeArea::refresh()
+{
+    fitHeight();
     setVisible(!notices.empty());
+    Q_EMIT filled(!notices.empty());
+}
+
+/** As high as the wrapped texts are, which bars and docks would not ask for. */
+void NoticeArea::fitHeight()
+{
+    if (notices.empty())
+        return;
+    // Before it is laid out its own width says nothing; it goes over that of the window.
+    const int wide = isVisible() ? width() : window()->width();
+    setFixedHeight(layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(wide)
+                                                 : layout()->sizeHint().height());
+}
+
+void NoticeArea::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitHeight();
 }
 
 QString NoticeArea::getText(const QString &name) const

@@ -40,6 +40,15 @@ public:
     /** What is said under \a name; empty if nothing is. */
     QString getText(const QString &name) const;
 
+    bool isEmpty() const { return notices.empty(); }
+
+Q_SIGNALS:
+    /** There is something to say now, or nothing any more. */
+    void filled(bool hasNotices);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     struct Notice
     {
@@ -50,6 +59,8 @@ private:
     };
 
     Notice *find(const QString &name);
+    void refresh();
+    void fitHeight();
     QLabel *createLabel(const QString &text, QWidget *line);
     void addButton(QHBoxLayout &layout, const QString &name, const Button &button);
 

@@ -1,6 +1,7 @@
 #include "openpanel.h"
 
 #include "hostfeed.h"
+#include "noticearea.h"
 #include "options.h"
 
 #include <QComboBox>
@@ -61,24 +62,24 @@ FileList::FileList(const QString &name, const QString &filter, QWidget *parent)
     : QWidget(parent)
     , filter(filter)
     , list(new QListWidget(this))
+    , addButton(new QToolButton(this))
 {
     list->setAccessibleName(name);
     list->setMaximumHeight(fontMetrics().height() * 5);
     list->setTextElideMode(Qt::ElideMiddle);
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    auto *add = new QToolButton(this);
-    add->setText(tr("Add…"));
-    add->setAccessibleName(tr("Add to: %1").arg(name));
+    addButton->setText(tr("Add…"));
+    addButton->setAccessibleName(tr("Add to: %1").arg(name));
     auto *remove = new QToolButton(this);
     remove->setText(tr("Remove"));
     remove->setAccessibleName(tr("Remove from: %1").arg(name));
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(list, 0, 0, 3, 1);
-    layout->addWidget(add, 0, 1);
+    layout->addWidget(addButton, 0, 1);
     layout->addWidget(remove, 1, 1);
     layout->setRowStretch(2, 1);
-    connect(add, &QToolButton::clicked, this, &FileList::choose);
+    connect(addButton, &QToolButton::clicked, this, &FileList::choose);
     connect(remove, &QToolButton::clicked, this, &FileList::removeChosen);
 }
 
@@ -105,6 +106,11 @@ void FileList::addFiles(const QStringList &files)
     Q_EMIT changed();
 }
 
+void FileList::focusAddButton()
+{
+    addButton->setFocus();
+}
+
 void FileList::choose()
 {
     addFiles(QFileDialog::getOpenFileNames(this, list->accessibleName(), QString(), filter));
@@ -119,12 +125,16 @@ void FileList::removeChosen()
 OpenPanel::OpenPanel(QSettings &settings, QWidget *parent)
     : QWidget(parent)
     , recent(settings)
+    , notices(new NoticeArea(this))
 {
     setWindowTitle(tr("Open a Source"));
     setAcceptDrops(true);
-    auto *layout = new QHBoxLayout(this);
-    layout->addWidget(createRecentList(), 2);
-    layout->addWidget(createForm(), 3);
+    auto *layout = new QVBoxLayout(this);
+    auto *halves = new QHBoxLayout;
+    halves->addWidget(createRecentList(), 2);
+    halves->addWidget(createForm(), 3);
+    layout->addWidget(notices);
+    layout->addLayout(halves, 1);
     takeKind();
     refreshRecent();
     resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 30);
@@ -327,9 +337,11 @@ QString OpenPanel::missing(const SourceChoice &choice) const
     if (!source.address)
         return source.error;
     if (choice.definitions.isEmpty() && !bringsDefinitions(*source.address))
-        return tr("Messages cannot be read without their definitions. Add the files that describe "
-                  "them: a MAVLink dialect (.xml), such as common.xml, or Protocol Buffers files "
-                  "(.proto, or a descriptor set .desc).");
+        return tr("The messages of %1 cannot be read without their definitions. Add the files "
+                  "that describe them: for MAVLink a dialect (.xml), such as common.xml, with the "
+                  "files that it includes beside it; for Protocol Buffers the .proto files, or a "
+                  "descriptor set (.desc, .pb), and the root type.")
+            .arg(choice.source);
     return {};
 }
 
@@ -338,6 +350,8 @@ void OpenPanel::open()
     const SourceChoice choice = getChoice();
     if (const QString problem = missing(choice); !problem.isEmpty()) {
         say(problem);
+        if (!choice.source.isEmpty() && choice.definitions.isEmpty())
+            definitions->focusAddButton();
         return;
     }
     if (choice.isProgram() && confirmedProgram != choice.source) {

@@ -15,6 +15,8 @@ class QToolButton;
 
 namespace corvane {
 
+class NoticeArea;
+
 /** A list of files that people add to and remove from. */
 class FileList : public QWidget
 {
@@ -27,6 +29,8 @@ public:
     QStringList getFiles() const;
     void setFiles(const QStringList &files);
     void addFiles(const QStringList &files);
+    /** So that Enter or Space chooses files. */
+    void focusAddButton();
 
 Q_SIGNALS:
     void changed();
@@ -37,6 +41,7 @@ private:
 
     QString filter;
     QListWidget *list; ///< Owned as a child.
+    QToolButton *addButton; ///< Owned as a child.
 };
 
 /**
@@ -61,6 +66,9 @@ public:
     void open();
     void refreshRecent();
 
+    /** Where what does not belong to the choice is said. */
+    NoticeArea *getNotices() const { return notices; }
+
 Q_SIGNALS:
     void chosen(const corvane::SourceChoice &choice);
 
@@ -80,7 +88,8 @@ private:
     QString missing(const SourceChoice &choice) const;
 
     RecentSources recent;
-    QListWidget *recentList = nullptr; ///< Owned as a child, as are all others.
+    NoticeArea *notices; ///< Owned as a child, as are all others.
+    QListWidget *recentList = nullptr;
     QComboBox *kind = nullptr;
     QLineEdit *address = nullptr;
     QToolButton *browse = nullptr;

@@ -219,7 +219,9 @@ private:
             complain(tr("--report opens no window, so --screenshot cannot go with it."));
         if (reports && !options.source)
             complain(tr("--report needs a SOURCE to read; see --help."));
-        if (options.source && options.definitions.isEmpty() && !bringsDefinitions(*options.source))
+        // The window asks for what is missing.
+        const bool asks = options.opensWindow() && !photographs;
+        if (options.lacksDefinitions() && !asks)
             complain(tr("Messages cannot be read without their definitions: name a MAVLink dialect "
                         "or Protocol Buffers files with --definitions FILE."));
         const bool isFile = options.source && options.source->kind == SourceAddress::Kind::File;
@@ -282,6 +284,11 @@ QString Options::getHelpText()
     // Help is printed before there is an application that would know the program's name.
     return parser.helpText().replace(QStringLiteral("<executable_name>"),
                                      QStringLiteral("corvane-inspector"));
+}
+
+bool Options::lacksDefinitions() const
+{
+    return source && definitions.isEmpty() && !bringsDefinitions(*source);
 }
 
 bool bringsDefinitions(const SourceAddress &source)

@@ -34,6 +34,9 @@ struct Options
     /** Whether the source is watched in a window, rather than read through once. */
     bool opensWindow() const { return report == Report::None && !exportFormat; }
 
+    /** Whether there is a source whose messages nothing describes. */
+    bool lacksDefinitions() const;
+
     Wish wish = Wish::Run;
     QString error;
     QStringList definitions;

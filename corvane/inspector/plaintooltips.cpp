@@ -1,6 +1,6 @@
 #include "plaintooltips.h"
 
-#include "steadytreewidget.h"
+#include "inspectortree.h"
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
@@ -55,6 +55,8 @@ bool PlainToolTips::eventFilter(QObject *object, QEvent *event)
     QString text = widget->toolTip();
     QRect area;
     if (const QAbstractItemView *view = viewOf(widget)) {
+        if (qobject_cast<const InspectorTree *>(view) != nullptr)
+            return false; // which tells more, and as plainly
         const QModelIndex index = view->indexAt(help->pos());
         text = index.data(Qt::ToolTipRole).toString();
         area = view->visualRect(index);

@@ -21,6 +21,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <new>
 
 namespace corvane {
 
@@ -76,6 +77,15 @@ Session::Session(QObject *parent)
 Session::~Session() = default;
 
 QStringList Session::load(const Options &options)
+{
+    try {
+        return loadAll(options);
+    } catch (const std::bad_alloc &) {
+        return {tr("There is not enough memory to read the definitions.")};
+    }
+}
+
+QStringList Session::loadAll(const Options &options)
 {
     if (const QString problem = chooseFormat(options); !problem.isEmpty())
         return {problem};

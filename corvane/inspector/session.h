@@ -84,6 +84,7 @@ Q_SIGNALS:
 
 private:
     void setFormat(std::unique_ptr<StreamFormat> newFormat);
+    QStringList loadAll(const Options &options);
     QString chooseFormat(const Options &options);
     QString chooseFraming(const Options &options);
     void needAllTypes();

@@ -25,6 +25,7 @@ QLabel *createFigure(const QString &toolTip, QWidget *parent)
 StatusFigures::StatusFigures(const Session &session, QWidget *parent)
     : QWidget(parent)
     , session(session)
+    , pause(createFigure(tr("The views stand still. Everything is counted all the same."), this))
     , totals(new ElidingLabel(this))
     , backlog(createFigure(tr("Bytes that have come and wait to be read. A figure that grows says "
                               "that more comes than can be shown."),
@@ -36,6 +37,12 @@ StatusFigures::StatusFigures(const Session &session, QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(fontMetrics().averageCharWidth() * 2);
+    pause->setBackgroundRole(QPalette::Highlight);
+    pause->setForegroundRole(QPalette::HighlightedText);
+    pause->setAutoFillBackground(true);
+    pause->setMargin(2);
+    pause->hide();
+    layout->addWidget(pause);
     layout->addWidget(totals);
     layout->addWidget(backlog);
     layout->addWidget(longestRound);
@@ -46,10 +53,13 @@ StatusFigures::StatusFigures(const Session &session, QWidget *parent)
     refresh();
 }
 
-void StatusFigures::setPaused(bool newPaused)
+void StatusFigures::setPaused(bool paused)
 {
-    paused = newPaused;
     framesAtPause = session.getReception().getTotals().frames;
+    if (paused)
+        sincePause.start();
+    else
+        sincePause.invalidate();
     refresh();
 }
 
@@ -59,6 +69,7 @@ void StatusFigures::refresh()
     const auto newFrames = static_cast<double>(frames - std::exchange(framesAtRefresh, frames));
     const double seconds = static_cast<double>(sinceRefresh.restart()) / 1000.0;
     totals->say(getTotalsText(seconds > 0 ? static_cast<quint64>(newFrames / seconds + 0.5) : 0));
+    showPause();
     showBacklog();
     showLongestRound();
 }
@@ -75,9 +86,19 @@ QString StatusFigures::getTotalsText(quint64 perSecond) const
         text += tr(", unknown: %1").arg(locale.toString(counts.unknownFrames));
     if (const auto dropped = session.getDroppedCount(); dropped.value_or(0) > 0)
         text += tr(", datagrams dropped: %1").arg(locale.toString(*dropped));
-    if (paused)
-        text = tr("Paused, new: %1; ").arg(locale.toString(counts.frames - framesAtPause)) + text;
     return text;
+}
+
+void StatusFigures::showPause()
+{
+    pause->setVisible(sincePause.isValid());
+    if (!sincePause.isValid())
+        return;
+    const QLocale locale;
+    const quint64 newFrames = session.getReception().getTotals().frames - framesAtPause;
+    pause->setText(
+        tr("Paused for %1 s, new messages: %2")
+            .arg(locale.toString(sincePause.elapsed() / 1000), locale.toString(newFrames)));
 }
 
 void StatusFigures::showBacklog()

@@ -23,22 +23,24 @@ public:
 
     void refresh();
     /** While the views are paused, the figures tell what has come meanwhile. */
-    void setPaused(bool newPaused);
+    void setPaused(bool paused);
 
 private:
     QString getTotalsText(quint64 perSecond) const;
+    void showPause();
     void showBacklog();
     void showLongestRound();
 
     const Session &session;
     EventRoundProbe probe;
+    QLabel *pause; ///< Owned as a child. Shown while paused.
     ElidingLabel *totals; ///< Owned as a child.
     QLabel *backlog; ///< Owned as a child.
     QLabel *longestRound; ///< Owned as a child.
     QElapsedTimer sinceRefresh;
     quint64 framesAtRefresh = 0;
     quint64 framesAtPause = 0;
-    bool paused = false;
+    QElapsedTimer sincePause; ///< Invalid while not paused.
 };
 
 } // namespace corvane

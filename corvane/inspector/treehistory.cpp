@@ -3,6 +3,7 @@
 #include "corvane.h"
 #include "latestmessages.h"
 #include "messagetreewidget.h"
+#include "rowplace.h"
 #include "singlevaluefieldtreewidgetitem.h"
 
 #include <QAction>
@@ -21,13 +22,6 @@ namespace {
 
 constexpr auto kind = MessageTreeWidget::Custom1;
 constexpr int widthInCharacters = 18;
-
-bool isNumeric(const FieldInfo *field)
-{
-    const qint32 code = field != nullptr ? field->getType().getCode() : FieldType::Invalid;
-    return code == FieldType::SignedInteger || code == FieldType::UnsignedInteger
-           || code == FieldType::Boolean || code == FieldType::Float;
-}
 
 } // namespace
 

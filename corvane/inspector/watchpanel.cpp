@@ -145,6 +145,7 @@ void WatchPanel::createTable()
     table->setAccessibleName(tr("Watched fields"));
     table->setMinimumHeight(fontMetrics().height() * 3);
     table->setHorizontalHeaderLabels({tr("Path"), tr("Value"), tr("Unit"), tr("State")});
+    table->setTabKeyNavigation(false); // Tab leads on to the next control
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);

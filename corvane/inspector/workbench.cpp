@@ -1,5 +1,6 @@
 #include "workbench.h"
 
+#include "crashtrace.h"
 #include "mainwindow.h"
 #include "openpanel.h"
 #include "session.h"
@@ -51,6 +52,8 @@ void Workbench::createWindow(const Options &newOptions)
             [this] { window->showState(tr("End of %1").arg(session->getSourceName())); });
     connect(session.get(), &Session::failed, window.get(), &MainWindow::showState);
     connect(session.get(), &Session::stateChanged, window.get(), &MainWindow::showState);
+    connect(session->getReception().getEventLog(), &EventLog::newEntry, window.get(),
+            [](const EventLog::Entry &entry) { addTraceLine(entry.event.getMessage()); });
     connect(window.get(), &MainWindow::openRequested, this, &Workbench::showOpenPanel);
     connect(window.get(), &MainWindow::filesDropped, this, &Workbench::takeFiles,
             Qt::QueuedConnection);
@@ -91,6 +94,18 @@ void Workbench::showOpenPanel()
         openPanel->raise();
     openPanel->show();
     openPanel->activateWindow();
+}
+
+void Workbench::askForDefinitions(const Options &newOptions)
+{
+    openPanel->setChoice(SourceChoice::of(newOptions));
+    showOpenPanel();
+    openPanel->open();
+}
+
+NoticeArea &Workbench::getNotices() const
+{
+    return window ? *window->getNotices() : *openPanel->getNotices();
 }
 
 QWidget *Workbench::getWindow() const

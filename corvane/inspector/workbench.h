@@ -13,6 +13,7 @@ class QWidget;
 namespace corvane {
 
 class MainWindow;
+class NoticeArea;
 class OpenPanel;
 class Session;
 struct SourceChoice;
@@ -31,6 +32,10 @@ public:
     QStringList open(const Options &options);
     /** Shows the panel in which people choose a source. */
     void showOpenPanel();
+    /** Asks for the definitions of the source of \a options, which names none. */
+    void askForDefinitions(const Options &options);
+    /** Where the window that people see says things. */
+    NoticeArea &getNotices() const;
     /** The window that people see: that of the source, else the panel. */
     QWidget *getWindow() const;
 

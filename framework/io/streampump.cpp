@@ -7,6 +7,7 @@
 #include <QDeadlineTimer>
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace corvane {
@@ -121,7 +122,11 @@ void StreamPump::runSlice()
     const QDeadlineTimer deadline(slice, Qt::PreciseTimer);
     Outcome outcome = Outcome::Continue;
     while (outcome == Outcome::Continue && isRunning()) {
-        outcome = advance();
+        try {
+            outcome = advance();
+        } catch (const std::bad_alloc &) {
+            outcome = giveUp();
+        }
         if (deadline.hasExpired())
             break;
     }
@@ -187,6 +192,13 @@ bool StreamPump::waitUntilDue()
     const auto waitMs = std::chrono::ceil<std::chrono::milliseconds>(wait);
     timer.start(isStanding ? longestWait : std::min(waitMs, longestWait));
     return true;
+}
+
+StreamPump::Outcome StreamPump::giveUp()
+{
+    stop();
+    Q_EMIT failed(tr("There is not enough memory to read on; what was read before stays."));
+    return Outcome::Wait;
 }
 
 void StreamPump::complete()

@@ -83,7 +83,9 @@ Q_SIGNALS:
     void chunkRead(QByteArrayView bytes);
     /** Emitted once, after the last frame of a source that came to its regular end. */
     void finished();
-    /** Emitted once instead of finished(), also after the last frame; \a message is the source's.
+    /**
+     * Emitted once instead of finished(), also after the last frame; \a message is the source's.
+     * Also when there is no memory for what comes next.
      */
     void failed(const QString &message);
 
@@ -109,6 +111,7 @@ private:
     Outcome fetch();
     Outcome decode();
     bool waitUntilDue();
+    Outcome giveUp();
     void complete();
 
     ByteSource &source;

@@ -47,8 +47,10 @@ std::optional<StreamScanner::Place> McapScanner::find(qint64 offset)
             return Place{position, record.firstTimeUs};
         if (record.lastTimeUs)
             latestTimeUs = std::max(latestTimeUs.value_or(*record.lastTimeUs), *record.lastTimeUs);
-        atEnd = record.isLast || record.size > std::numeric_limits<qint64>::max() - position;
-        position += record.size;
+        constexpr qint64 furthest = std::numeric_limits<qint64>::max();
+        atEnd = record.isLast || record.size > furthest - position;
+        // Nothing behind the end is kept.
+        position = atEnd ? furthest : position + record.size;
     }
     return std::nullopt;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "inspectortree.h"
 #include "mainwindow.h"
 #include "messagewidget.h"
 #include "session.h"
@@ -50,6 +51,15 @@ public:
     }
 
     void choose(const QString &name) const { types()->setCurrentIndex(indexOf(name)); }
+
+    void chooseRow(const QString &name) const
+    {
+        auto *tree = window->findChild<InspectorTree *>();
+        const auto find
+            = [&] { return tree->findItems(name, Qt::MatchExactly | Qt::MatchRecursive).value(0); };
+        QTRY_VERIFY(find() != nullptr);
+        tree->setCurrentItem(find());
+    }
 
     /** The form as lines "name: value". */
     QStringList form() const

@@ -1,8 +1,12 @@
 #include "abstractplotpanel.h"
+#include "bytespanel.h"
 #include "exportbar.h"
 #include "exportcontroller.h"
 #include "fieldvaluelabel.h"
+#include "hexview.h"
+#include "inspectortree.h"
 #include "mainwindow.h"
+#include "messagetreepanel.h"
 #include "messagewidget.h"
 #include "session.h"
 #include "shownwindow.h"
@@ -18,6 +22,7 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QToolBar>
 #include <QTreeView>
@@ -44,9 +49,13 @@ private Q_SLOTS:
     void paused_viewsStandStillAndTheBarSaysWhatCame();
     void plot_isAPanelOrSaysThatItIsMissing();
     void plot_isPausedAndRemembered();
+    void rowActions_reachThePanels_data();
+    void rowActions_reachThePanels();
+    void bytes_followWhatIsChosen();
     void exportedStatistics_areToldAboveTheViews();
     void transportBar_isThereForRecordingsOnly();
     void layout_isRememberedByTheSettings();
+    void layout_atFirst_showsTheForm();
     void layout_ofRandomBytes_startsWithTheDefault();
 };
 
@@ -157,7 +166,7 @@ void tst_mainwindow::statusBar_neverWidensTheWindow()
     const int before = shown.window->minimumSizeHint().width();
     shown.window->showState(QString(2000, QLatin1Char('m')));
     QCoreApplication::processEvents();
-    QCOMPARE(shown.window->minimumSizeHint().width(), before);
+    QVERIFY(shown.window->minimumSizeHint().width() <= before);
 }
 
 void tst_mainwindow::paused_viewsStandStillAndTheBarSaysWhatCame()
@@ -168,12 +177,18 @@ void tst_mainwindow::paused_viewsStandStillAndTheBarSaysWhatCame()
     auto *pause = shown.action(QStringLiteral("&Pause the Views"));
     pause->trigger();
     const QStringList before = shown.form();
-    QTRY_VERIFY(!shown.says(QStringLiteral("Paused, new: 0;")));
-    QVERIFY(shown.says(QStringLiteral("Paused, ")));
+    const auto pauseText = [&shown] {
+        for (const QLabel *label : shown.window->findChildren<QLabel *>())
+            if (label->text().startsWith(QStringLiteral("Paused for")) && label->isVisible())
+                return label->text();
+        return QString();
+    };
+    const QRegularExpression some(QStringLiteral("^Paused for \\d+ s, new messages: [1-9]"));
+    QTRY_VERIFY(some.match(pauseText()).hasMatch());
     QCOMPARE(shown.form(), before);
     pause->trigger();
     QVERIFY(shown.form() != before);
-    QVERIFY(!shown.says(QStringLiteral("Paused")));
+    QCOMPARE(pauseText(), QString());
 }
 
 void tst_mainwindow::plot_isAPanelOrSaysThatItIsMissing()
@@ -197,6 +212,63 @@ void tst_mainwindow::plot_isPausedAndRemembered()
     shown.window->close();
     QCOMPARE(shown.settings.value(QStringLiteral("plot/paths")).toStringList(),
              QStringList(QStringLiteral("MAVLink.MOTION.heading")));
+}
+
+void tst_mainwindow::rowActions_reachThePanels_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("dock");
+    QTest::newRow("watch") << "Add to &Watch"
+                           << "watch";
+    QTest::newRow("plot") << "P&lot"
+                          << "plot";
+    QTest::newRow("form") << "Show &Form"
+                          << "form";
+    QTest::newRow("bytes") << "Show &Bytes"
+                           << "bytes";
+}
+
+void tst_mainwindow::rowActions_reachThePanels()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, dock);
+    const ShownWindow shown;
+    if (dock == "plot" && shown.window->findChild<AbstractPlotPanel *>() == nullptr)
+        QSKIP("this build has no plot");
+    for (auto *closed : shown.window->findChildren<QDockWidget *>())
+        closed->close();
+    shown.chooseRow("satellites");
+    QVERIFY(shown.action(action)->isEnabled());
+    shown.action(action)->trigger();
+    QVERIFY(shown.window->findChild<QDockWidget *>(dock)->isVisible());
+    QStringList paths;
+    for (const auto *table : shown.window->findChildren<QTableWidget *>())
+        for (int row = 0; row < table->rowCount(); ++row)
+            for (int column = 0; column < table->columnCount(); ++column)
+                if (const auto *cell = table->item(row, column))
+                    paths += cell->text() + cell->toolTip();
+    const bool isListed = paths.join(' ').contains("POSITION.satellites");
+    QCOMPARE(isListed, dock == "watch" || dock == "plot");
+}
+
+void tst_mainwindow::bytes_followWhatIsChosen()
+{
+    const ShownWindow shown;
+    shown.window->findChild<QDockWidget *>("bytes")->raise();
+    QTRY_VERIFY(shown.window->findChild<BytesPanel *>()->isVisible());
+    shown.choose("BATTERY");
+    QTRY_VERIFY(shown.says("BATTERY: "));
+    shown.chooseRow("satellites");
+    QVERIFY(shown.says("satellites: offset "));
+    QCOMPARE(shown.types()->currentIndex(), shown.indexOf("POSITION"));
+    const auto *tree = shown.window->findChild<InspectorTree *>();
+    const QTreeWidgetItem *satellites = tree->currentItem();
+    shown.chooseRow("accuracy");
+    auto *view = shown.window->findChild<HexView *>();
+    QTest::keyClick(view, Qt::Key_Right);
+    QTest::keyClick(view, Qt::Key_Right);
+    QTest::keyClick(view, Qt::Key_Return);
+    QCOMPARE(tree->currentItem(), satellites); // which lies behind
 }
 
 void tst_mainwindow::exportedStatistics_areToldAboveTheViews()
@@ -225,7 +297,7 @@ void tst_mainwindow::layout_isRememberedByTheSettings()
 {
     const ShownWindow shown;
     shown.window->findChild<QDockWidget *>(QStringLiteral("form"))->close();
-    shown.window->resize(700, 510);
+    shown.window->resize(700, 560);
     shown.window->close();
     Session session;
     QSettings settings(shown.settings.fileName(), QSettings::IniFormat);
@@ -233,7 +305,20 @@ void tst_mainwindow::layout_isRememberedByTheSettings()
     next.show();
     QVERIFY(!next.findChild<QDockWidget *>(QStringLiteral("form"))->isVisible());
     QVERIFY(next.findChild<QDockWidget *>(QStringLiteral("types"))->isVisible());
-    QCOMPARE(next.size(), QSize(700, 510));
+    QCOMPARE(next.size(), QSize(700, 560));
+}
+
+void tst_mainwindow::layout_atFirst_showsTheForm()
+{
+    const ShownWindow shown;
+    const auto isInFront = [&shown](const char *name) {
+        return !shown.window->findChild<QDockWidget *>(QLatin1String(name))
+                    ->visibleRegion()
+                    .isEmpty();
+    };
+    QTRY_VERIFY(isInFront("form"));
+    QVERIFY(isInFront("types") && isInFront("statistics"));
+    QVERIFY(!isInFront("watch") && !isInFront("help"));
 }
 
 void tst_mainwindow::layout_ofRandomBytes_startsWithTheDefault()

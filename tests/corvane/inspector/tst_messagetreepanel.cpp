@@ -1,7 +1,7 @@
+#include "inspectortree.h"
 #include "latestmessages.h"
 #include "messageinfo.h"
 #include "messagetreepanel.h"
-#include "messagetreewidget.h"
 #include "messagetreewidgetitem.h"
 #include "testcase.h"
 #include "testformat.h"
@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QCompleter>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSettings>
@@ -29,6 +30,10 @@ private Q_SLOTS:
     void allKnownTypes_canBeShownAndHidden();
     void filter_isTypedWithCompletion();
     void filter_withoutRepeatedSubMessages_saysSo();
+    void filter_isOfferedForElementsWithoutNamesToo();
+    void emptyTree_saysWhatWouldFillIt();
+    void currentRow_isDescribedBelow();
+    void longDescription_leavesTheRowsTheirRoom();
     void currentRow_announcesItsType();
     void settings_areRemembered();
     void destructor_forgetsWhatWillBeGone();
@@ -165,6 +170,60 @@ void tst_messagetreepanel::filter_withoutRepeatedSubMessages_saysSo()
     QVERIFY(edit->placeholderText().startsWith("Nothing to filter"));
 }
 
+void tst_messagetreepanel::filter_isOfferedForElementsWithoutNamesToo()
+{
+    const TestFormat format("Lists", "A\n  list B[]\nB part\n  n int8\n");
+    TestSource source(format);
+    const corvane::LatestMessages latest(source);
+    const corvane::MessageTreePanel panel(latest, *format.getInfo());
+    QVERIFY(panel.findChild<QLineEdit *>()->isEnabled());
+}
+
+void tst_messagetreepanel::emptyTree_saysWhatWouldFillIt()
+{
+    Shown shown;
+    const QString text = shown.tree()->accessibleDescription();
+    QVERIFY2(text.startsWith("No message has come yet."), qPrintable(text));
+    QVERIFY2(text.contains("all 2 known types"), qPrintable(text));
+    const TestFormat none("None", "");
+    const corvane::MessageTreePanel panel(shown.latest, *none.getInfo());
+    QVERIFY(panel.getTree()->accessibleDescription().startsWith("No definitions are loaded"));
+}
+
+void tst_messagetreepanel::currentRow_isDescribedBelow()
+{
+    Shown shown;
+    const auto says = [&](const QString &text) {
+        for (const auto *label : shown.panel.findChildren<QLabel *>())
+            if (label->text().endsWith(text))
+                return true;
+        return false;
+    };
+    shown.source.send("Position{height: 2}");
+    QTRY_VERIFY(says("what can be done with it."));
+    shown.tree()->setCurrentItem(shown.tree()->topLevelItem(0)->child(3));
+    QTRY_VERIFY(says("Empty in the newest message."));
+    shown.source.send("Position{sats: [{state: Good}]}");
+    QTRY_VERIFY(says("Demo.Position.sats  ·  list of Satellite"));
+}
+
+void tst_messagetreepanel::longDescription_leavesTheRowsTheirRoom()
+{
+    const QString words = QString("word ").repeated(25);
+    const TestFormat format("Long", QString("A\n  %1 int8 '%2'\n").arg(QString(60, 'x'), words));
+    TestSource source(format);
+    const corvane::LatestMessages latest(source);
+    corvane::MessageTreePanel panel(latest, *format.getInfo());
+    source.send("A{}");
+    panel.resize(300, 400);
+    panel.show();
+    const int before = panel.getTree()->height();
+    panel.getTree()->setCurrentItem(panel.getTree()->topLevelItem(0)->child(0));
+    QCoreApplication::processEvents();
+    QCOMPARE(panel.getTree()->height(), before);
+    QVERIFY(before > 200);
+}
+
 void tst_messagetreepanel::currentRow_announcesItsType()
 {
     Shown shown;
@@ -185,6 +244,8 @@ void tst_messagetreepanel::settings_areRemembered()
     Shown shown;
     shown.source.send("Position{}");
     shown.action("&Type")->trigger();
+    shown.action("&Units")->trigger();
+    shown.action("He&xadecimal")->trigger();
     shown.tree()->topLevelItem(0)->child(3)->setExpanded(true);
     shown.panel.saveSettings(settings);
     MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
@@ -194,6 +255,8 @@ void tst_messagetreepanel::settings_areRemembered()
                                                MessageTreeWidget::Name, MessageTreeWidget::Value}));
     QVERIFY(MessageTreeWidget::sFieldInfoExpandedCollapsedMap.value(
         shown.format.field("Position.sats")));
+    QVERIFY(!next.getTree()->areUnitsShown());
+    QVERIFY(next.getTree()->isHexadecimalShown());
 }
 
 void tst_messagetreepanel::destructor_forgetsWhatWillBeGone()

@@ -136,8 +136,10 @@ void tst_options::parse_mistake_isExplained_data()
                                  << "text or json";
     QTest::newRow("report source") << "--definitions a --report text"
                                    << "needs a SOURCE";
-    QTest::newRow("definitions") << "a.tlog"
+    QTest::newRow("definitions") << "--report text a.tlog"
                                  << "--definitions FILE";
+    QTest::newRow("definitions of a picture") << "--screenshot b.png a.tlog"
+                                              << "--definitions FILE";
     QTest::newRow("two sources") << "--definitions a b c"
                                  << "\"c\" is one too many";
     QTest::newRow("source") << "--definitions a foo://bar"

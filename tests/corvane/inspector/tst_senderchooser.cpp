@@ -25,6 +25,7 @@ private Q_SLOTS:
     void chosen_watchForgetsTheOthers();
     void chosen_everythingIsCountedOn();
     void chosen_plotBeginsAnew();
+    void chosen_bytesOfTheOthersAreGone();
     void panel_choosesTheSender();
 };
 
@@ -166,6 +167,21 @@ void tst_senderchooser::chosen_plotBeginsAnew()
     scene.chooseRow(1);
     scene.session.start(scene.options);
     QTRY_VERIFY2(state().contains("Received"), qPrintable(state()));
+}
+
+void tst_senderchooser::chosen_bytesOfTheOthersAreGone()
+{
+    const Scene scene;
+    auto *dock = scene.window->findChild<QDockWidget *>("bytes");
+    dock->raise();
+    auto *tree = scene.window->findChild<MessageTreeWidget *>();
+    tree->setCurrentItem(tree->findItems("MOTION", Qt::MatchExactly).value(0));
+    const auto heading = [dock] { return dock->widget()->findChild<QLabel *>()->text(); };
+    QTRY_VERIFY2(heading().contains(" bytes"), qPrintable(heading()));
+    scene.chooseRow(2);
+    QTRY_VERIFY2(heading().contains("no message of this type"), qPrintable(heading()));
+    scene.chooseRow(1);
+    QTRY_VERIFY2(heading().contains(" bytes"), qPrintable(heading()));
 }
 
 void tst_senderchooser::panel_choosesTheSender()

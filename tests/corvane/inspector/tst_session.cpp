@@ -14,7 +14,6 @@
 #include <QTemporaryDir>
 
 #include <google/protobuf/descriptor.pb.h>
-
 #include <unistd.h>
 
 #include <memory>

@@ -1,5 +1,6 @@
 #include "hostfeed.h"
 #include "mainwindow.h"
+#include "noticearea.h"
 #include "openpanel.h"
 #include "recentsources.h"
 #include "testcase.h"
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void panel_sortsDroppedFiles();
     void panel_asksBeforeAProgramStarts();
     void panel_recentProgram_isNotStartedUnasked();
+    void workbench_asksForDefinitions();
     void workbench_opensAndRemembers();
     void workbench_opensAnotherInItsPlace();
     void workbench_saysWhyDefinitionsDoNotLoad();
@@ -222,6 +224,24 @@ void tst_workbench::panel_recentProgram_isNotStartedUnasked()
     QTest::keyClick(list, Qt::Key_Return);
     QCOMPARE(chosen.size(), 0);
     QVERIFY(noticeOf(panel)->text().contains("evil"));
+}
+
+void tst_workbench::workbench_asksForDefinitions()
+{
+    const auto settings = newSettings();
+    const auto options = Options::parse({"inspector", recording()});
+    QCOMPARE(options.wish, Options::Wish::Run);
+    Workbench workbench(options, *settings);
+    workbench.askForDefinitions(options);
+    auto *panel = qobject_cast<OpenPanel *>(workbench.getWindow());
+    QVERIFY(panel != nullptr && panel->isVisible());
+    QCOMPARE(panel->getChoice().source, recording());
+    QVERIFY(noticeOf(*panel)->text().contains("dialect (.xml)"));
+    QVERIFY(noticeOf(*panel)->text().contains(".proto"));
+    QVERIFY(QTest::qWaitForWindowActive(panel));
+    QCOMPARE(panel->focusWidget()->accessibleName(), QStringLiteral("Add to: Definitions"));
+    workbench.getNotices().say("a", "Something");
+    QVERIFY(workbench.getNotices().isVisible());
 }
 
 void tst_workbench::workbench_opensAndRemembers()

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 namespace corvane::test {
 
@@ -37,7 +38,7 @@ public:
 
     bool isLive() const override { return live; }
 
-    qsizetype getWaitingBytes() const { return waiting.size(); }
+    std::optional<qint64> getWaitingBytes() const override { return waiting.size(); }
 
     int readCount = 0;
 

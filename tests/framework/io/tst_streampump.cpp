@@ -11,6 +11,7 @@
 
 #include <chrono>
 #include <ctime>
+#include <new>
 
 using namespace corvane;
 using namespace std::chrono_literals;
@@ -95,6 +96,7 @@ private Q_SLOTS:
     void end_comesAfterTheLastFrame();
     void failure_comesAfterTheLastFrame();
     void failure_ofOpening();
+    void failure_ofMemory();
     void arrival_isKnownOfLiveSourcesOnly();
     void slices_letOthersWork();
     void slice_canBeSet();
@@ -160,6 +162,26 @@ void TestStreamPump::failure_comesAfterTheLastFrame()
     QCOMPARE(f.failed.first().first().toString(), "it broke");
     QCOMPARE(framesAtEnd, QStringList({"one", "(cut) rest"}));
     QCOMPARE(f.finished.size(), 0);
+}
+
+void TestStreamPump::failure_ofMemory()
+{
+    Fixture f;
+    f.decoder.onFrame = [](const QString &frame) {
+        if (frame == QLatin1String("huge"))
+            throw std::bad_alloc();
+    };
+    f.source.add("one\nhuge\ntwo\n");
+    f.pump.start();
+    QTRY_COMPARE(f.failed.size(), 1);
+    QVERIFY(f.failed.first().first().toString().contains("not enough memory"));
+    QVERIFY(f.source.isAtEnd());
+    QCOMPARE(f.decoder.frames, QStringList({"one", "huge"}));
+    QCOMPARE(f.finished.size(), 0);
+
+    f.source.add("three\n");
+    f.pump.start();
+    QTRY_COMPARE(f.decoder.frames.last(), "three");
 }
 
 void TestStreamPump::failure_ofOpening()
@@ -267,7 +289,7 @@ void TestStreamPump::pause_stopsReading()
     QVERIFY(f.pump.isPaused());
     f.source.add("one\n");
     QTest::qWait(20);
-    QCOMPARE(f.source.getWaitingBytes(), 4);
+    QCOMPARE(f.source.getWaitingBytes(), qint64(4));
     QCOMPARE(f.pump.getBytesRead(), quint64(0));
     f.pump.setPaused(false);
     QTRY_COMPARE(f.decoder.frames, QStringList({"one"}));
