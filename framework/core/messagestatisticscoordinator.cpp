@@ -12,6 +12,7 @@ MessageStatisticsCoordinatorData::add(std::unique_ptr<MessageStatisticsData> dat
 {
     data->clock = &clock;
     all.push_back(std::make_unique<MessageStatistics>(std::move(data)));
+    list.append(all.back().get());
     return *all.back()->getData();
 }
 
@@ -61,11 +62,7 @@ MessageStatisticsCoordinator::~MessageStatisticsCoordinator() = default;
 
 QList<MessageStatistics *> MessageStatisticsCoordinator::getAllMessageStatistics() const
 {
-    QList<MessageStatistics *> result;
-    result.reserve(static_cast<qsizetype>(d->all.size()));
-    for (const auto &statistics : d->all)
-        result.append(statistics.get());
-    return result;
+    return d->list;
 }
 
 unsigned int MessageStatisticsCoordinator::getEventCount(CorvaneEvent::Type type) const

@@ -9,6 +9,7 @@
 #include "rhythm.h"
 
 #include <QHash>
+#include <QList>
 
 #include <algorithm>
 #include <array>
@@ -89,6 +90,7 @@ public:
     MessageStatisticsData &getFor(const FormatInfo *format, quint32 unknownNumber);
 
     std::vector<std::unique_ptr<MessageStatistics>> all;
+    QList<MessageStatistics *> list; ///< The same; views ask for it once for each of their rows.
     std::array<quint64, 16> eventCounts{};
     StreamClock clock;
 

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void report_ofARegularType();
     void withoutTime_isNotRegularForLong();
     void counts_staySaturated();
+    void list_isHandedOutWithoutACopy();
     void intervals_mostFrequentFirst();
     void senders_haveRhythmsOfTheirOwn();
     void senders_tooMany_areCountedOnly();
@@ -133,6 +134,17 @@ void TestMessageStatistics::withoutTime_isNotRegularForLong()
         scene.send("A", 1, noTime);
     QVERIFY(!scene.statistics().isCurrentlyRegular());
     QCOMPARE(scene.statistics().getCountWithUnknownTime(), 6U);
+}
+
+void TestMessageStatistics::list_isHandedOutWithoutACopy()
+{
+    Scene scene;
+    scene.send("A", 1, 1000);
+    scene.send("B", 1, 2000);
+    const auto first = scene.reception.getStatistics()->getAllMessageStatistics();
+    const auto second = scene.reception.getStatistics()->getAllMessageStatistics();
+    QCOMPARE(first.size(), 2);
+    QCOMPARE(first.constData(), second.constData());
 }
 
 void TestMessageStatistics::counts_staySaturated()
