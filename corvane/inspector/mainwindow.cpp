@@ -93,6 +93,7 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     createStatusBar();
     connectAll();
     resize(fontMetrics().averageCharWidth() * 230, fontMetrics().height() * 55);
+    shareOutRoom();
     restoreLayout();
     applyViewSettings();
     showChosenType();
@@ -115,7 +116,7 @@ void MainWindow::createTypeView()
     typeView->setModel(sortedTypes);
     typeView->setRootIsDecorated(false);
     typeView->setUniformRowHeights(true);
-    typeView->setMinimumHeight(fontMetrics().height() * 3);
+    typeView->setMinimumSize(fontMetrics().averageCharWidth() * 28, fontMetrics().height() * 3);
     typeView->setSortingEnabled(true);
     typeView->sortByColumn(MessageTypeModel::NameColumn, Qt::AscendingOrder);
     typeView->header()->setStretchLastSection(false);
@@ -192,6 +193,7 @@ void MainWindow::createPanels()
     tree = new MessageTreePanel(*latest, *session.getReception().getFormat());
     menuBar()->addMenu(tree->getMenu());
     auto *centre = new QWidget(this);
+    centre->setMinimumWidth(fontMetrics().averageCharWidth() * 40); // docks give way to the tree
     auto *column = new QVBoxLayout(centre);
     column->setContentsMargins({});
     column->addWidget(exports->getBar());
@@ -290,6 +292,15 @@ void MainWindow::showVersions()
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setIconPixmap(makeProgramIcon().pixmap(64, 64));
     box->open();
+}
+
+/** Most of it to the tree. */
+void MainWindow::shareOutRoom()
+{
+    const auto dock
+        = [this](const char *name) { return findChild<QDockWidget *>(QLatin1String(name)); };
+    resizeDocks({dock("statistics")}, {height() / 4}, Qt::Vertical);
+    resizeDocks({dock("types"), dock("form")}, {width() / 5, width() * 3 / 10}, Qt::Horizontal);
 }
 
 void MainWindow::restoreLayout()

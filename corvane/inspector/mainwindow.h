@@ -81,6 +81,7 @@ private:
     static void raisePanel(QWidget *panel);
     QDockWidget *
     addPanel(QWidget *panel, const QString &name, const QString &title, Qt::DockWidgetArea area);
+    void shareOutRoom();
     void restoreLayout();
     void chooseFirstType();
     void showChosenType();

@@ -98,10 +98,12 @@ QWidget *WatchPanel::createChooser()
     auto *messages
         = new PathExpressionComboBox(&expression, PathExpression::MessagePart, &messageOptions);
     messages->setAccessibleName(tr("Message type"));
+    // Long names of types do not make the panel wide.
+    messages->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
     auto *fields
         = new PathExpressionListWidget(&expression, PathExpression::FieldPart, &fieldOptions);
     fields->setAccessibleName(tr("Field"));
-    fields->setMinimumHeight(fontMetrics().height() * 2);
+    fields->setMinimumHeight(fontMetrics().height() * 3 / 2);
 
     auto *combos = new QHBoxLayout;
     combos->addWidget(formats);
