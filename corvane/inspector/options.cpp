@@ -281,9 +281,7 @@ QString Options::getHelpText()
 {
     QCommandLineParser parser;
     describe(parser);
-    // Help is printed before there is an application that would know the program's name.
-    return parser.helpText().replace(QStringLiteral("<executable_name>"),
-                                     QStringLiteral("corvane-inspector"));
+    return parser.helpText();
 }
 
 bool Options::lacksDefinitions() const

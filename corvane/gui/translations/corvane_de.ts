@@ -979,6 +979,13 @@ Zeitstempel wie die vorige empfangen wurde.</translation>
     </message>
 </context>
 <context>
+    <name>corvane::StreamPump</name>
+    <message>
+        <source>There is not enough memory to read on; what was read before stays.</source>
+        <translation>Der Speicher reicht nicht, um weiterzulesen; was vorher gelesen wurde, bleibt.</translation>
+    </message>
+</context>
+<context>
     <name>corvane::TcpClientSource</name>
     <message>
         <source>The connection to %1 broke: %2.</source>

@@ -979,6 +979,13 @@ con la misma marca de tiempo que el anterior.</translation>
     </message>
 </context>
 <context>
+    <name>corvane::StreamPump</name>
+    <message>
+        <source>There is not enough memory to read on; what was read before stays.</source>
+        <translation>No hay memoria suficiente para seguir leyendo; lo leído antes se conserva.</translation>
+    </message>
+</context>
+<context>
     <name>corvane::TcpClientSource</name>
     <message>
         <source>The connection to %1 broke: %2.</source>

@@ -979,6 +979,13 @@ avec le même horodatage que le précédent.</translation>
     </message>
 </context>
 <context>
+    <name>corvane::StreamPump</name>
+    <message>
+        <source>There is not enough memory to read on; what was read before stays.</source>
+        <translation>Il n’y a pas assez de mémoire pour continuer la lecture&#x202f;; ce qui a été lu avant reste.</translation>
+    </message>
+</context>
+<context>
     <name>corvane::TcpClientSource</name>
     <message>
         <source>The connection to %1 broke: %2.</source>

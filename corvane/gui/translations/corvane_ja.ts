@@ -978,6 +978,13 @@ with the same time stamp as previous.</source>
     </message>
 </context>
 <context>
+    <name>corvane::StreamPump</name>
+    <message>
+        <source>There is not enough memory to read on; what was read before stays.</source>
+        <translation>読み続けるためのメモリーが足りません。それまでに読んだものは残ります。</translation>
+    </message>
+</context>
+<context>
     <name>corvane::TcpClientSource</name>
     <message>
         <source>The connection to %1 broke: %2.</source>

@@ -976,6 +976,13 @@ with the same time stamp as previous.</source>
     </message>
 </context>
 <context>
+    <name>corvane::StreamPump</name>
+    <message>
+        <source>There is not enough memory to read on; what was read before stays.</source>
+        <translation>内存不足，无法继续读取；之前读取的内容保留。</translation>
+    </message>
+</context>
+<context>
     <name>corvane::TcpClientSource</name>
     <message>
         <source>The connection to %1 broke: %2.</source>

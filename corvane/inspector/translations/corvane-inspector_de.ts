@@ -33,6 +33,45 @@
     </message>
 </context>
 <context>
+    <name>corvane</name>
+    <message>
+        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
+        <translation>Das Programm ist zuvor abgestürzt. Was es zuletzt getan hat, steht in „%1“.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>&amp;Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>sie kann nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>sie ist kein Text</translation>
+    </message>
+    <message>
+        <source>it is no settings file</source>
+        <translation>sie ist keine Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>it holds what this program does not write</source>
+        <translation>sie enthält, was dieses Programm nicht schreibt</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ConfidentialSwitch</name>
     <message>
         <source>Show &amp;Confidential Fields</source>
@@ -314,6 +353,71 @@
         <source>Fields of the chosen message type</source>
         <translation>Felder des gewählten Nachrichtentyps</translation>
     </message>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::HelpPanel</name>
+    <message>
+        <source>Open a source</source>
+        <translation>Eine Quelle öffnen</translation>
+    </message>
+    <message>
+        <source>A recording, a network address, a serial port or a program, together with the files that describe its messages. Files can be dropped onto the window.</source>
+        <translation>Eine Aufzeichnung, eine Netzwerkadresse, eine serielle Schnittstelle oder ein Programm, zusammen mit den Dateien, die die Nachrichten beschreiben. Dateien können auf das Fenster gezogen werden.</translation>
+    </message>
+    <message>
+        <source>Look at messages</source>
+        <translation>Nachrichten ansehen</translation>
+    </message>
+    <message>
+        <source>The tree in the middle shows the last message of each type. A row that is chosen there, or in the list of types, fills the form. Choose what the tree shows in the menu Tree.</source>
+        <translation>Der Baum in der Mitte zeigt die letzte Nachricht jedes Typs. Eine Zeile, die dort oder in der Liste der Typen gewählt wird, füllt das Formular. Was der Baum zeigt, wählen Sie im Menü „Baum“.</translation>
+    </message>
+    <message>
+        <source>Watch some fields</source>
+        <translation>Einige Felder beobachten</translation>
+    </message>
+    <message>
+        <source>Watch and Plot take paths of fields, FORMAT.MESSAGE.FIELD; * stands for any text.</source>
+        <translation>Beobachtung und Diagramm nehmen Pfade von Feldern, FORMAT.NACHRICHT.FELD; * steht für beliebigen Text.</translation>
+    </message>
+    <message>
+        <source>See what is lost</source>
+        <translation>Sehen, was verloren geht</translation>
+    </message>
+    <message>
+        <source>Statistics, senders and event log tell of rates, gaps, losses and damage of every message, shown or not, also while the views are paused.</source>
+        <translation>Statistik, Sender und Ereignisprotokoll sagen Raten, Lücken, Verluste und Schäden jeder Nachricht, gezeigt oder nicht, auch während die Ansichten angehalten sind.</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Es behalten</translation>
+    </message>
+    <message>
+        <source>Record writes the bytes of the source as they come. Export writes messages or some of their fields as text for other programs.</source>
+        <translation>„Aufzeichnen“ schreibt die Bytes der Quelle, wie sie kommen. „Exportieren“ schreibt Nachrichten oder einige ihrer Felder als Text für andere Programme.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Corvane Inspector %1
+Framework %1
+Qt %2
+Protocol Buffers %3</source>
+        <translation>Corvane-Inspektor %1
+Framework %1
+Qt %2
+Protocol Buffers %3</translation>
+    </message>
 </context>
 <context>
     <name>corvane::MainWindow</name>
@@ -397,6 +501,58 @@
         <source>Waiting for messages from %1.</source>
         <translation>Warten auf Nachrichten von %1.</translation>
     </message>
+    <message>
+        <source>Show or hide the tool bar</source>
+        <translation>Die Werkzeugleiste zeigen oder verbergen</translation>
+    </message>
+    <message>
+        <source>Notices</source>
+        <translation>Hinweise</translation>
+    </message>
+    <message>
+        <source>Close the window; what it shows is remembered</source>
+        <translation>Das Fenster schließen; was es zeigt, wird gemerkt</translation>
+    </message>
+    <message>
+        <source>Show or hide the bar that plays recordings</source>
+        <translation>Die Leiste zum Abspielen von Aufzeichnungen zeigen oder verbergen</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel &quot;%1&quot;</source>
+        <translation>Das Feld „%1“ zeigen oder verbergen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Uses and Keys</source>
+        <translation>&amp;Verwendung und Tasten</translation>
+    </message>
+    <message>
+        <source>What the window is for, and all keys</source>
+        <translation>Wofür das Fenster da ist, und alle Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Über</translation>
+    </message>
+    <message>
+        <source>The versions of the program and of what it uses</source>
+        <translation>Die Versionen des Programms und dessen, was es verwendet</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
 </context>
 <context>
     <name>corvane::MessageTreePanel</name>
@@ -445,8 +601,108 @@
         <translation>Nur wiederholte Teilnachrichten zeigen, in denen ein Wert diesen Namen hat</translation>
     </message>
     <message>
-        <source>Nothing to filter: no message type has repeated sub-messages with named values</source>
-        <translation>Nichts zu filtern: Kein Nachrichtentyp hat wiederholte Teilnachrichten mit benannten Werten</translation>
+        <source>Show or hide this column</source>
+        <translation>Diese Spalte zeigen oder verbergen</translation>
+    </message>
+    <message>
+        <source>Current Ro&amp;w</source>
+        <translation>Aktuelle &amp;Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Suchen …</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find a row by name, value or path</source>
+        <translation>Eine Zeile nach Name, Wert oder Pfad suchen</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>F3</source>
+        <translation>F3</translation>
+    </message>
+    <message>
+        <source>Go to the next row that was found</source>
+        <translation>Zur nächsten gefundenen Zeile</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>&amp;Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Shift+F3</source>
+        <translation>Shift+F3</translation>
+    </message>
+    <message>
+        <source>Go to the row that was found before</source>
+        <translation>Zur vorher gefundenen Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Units</source>
+        <translation>&amp;Einheiten</translation>
+    </message>
+    <message>
+        <source>Show units beside numbers</source>
+        <translation>Einheiten neben Zahlen zeigen</translation>
+    </message>
+    <message>
+        <source>He&amp;xadecimal</source>
+        <translation>He&amp;xadezimal</translation>
+    </message>
+    <message>
+        <source>Show integers in hexadecimal digits as well</source>
+        <translation>Ganze Zahlen auch hexadezimal zeigen</translation>
+    </message>
+    <message>
+        <source>Show fields that are computed from others</source>
+        <translation>Felder zeigen, die aus anderen berechnet werden</translation>
+    </message>
+    <message>
+        <source>Show details that few readers want</source>
+        <translation>Einzelheiten zeigen, die wenige Leser brauchen</translation>
+    </message>
+    <message>
+        <source>Show types of which no message has come yet as well</source>
+        <translation>Auch Typen zeigen, von denen noch keine Nachricht gekommen ist</translation>
+    </message>
+    <message>
+        <source>Ctrl+Right</source>
+        <translation>Ctrl+Right</translation>
+    </message>
+    <message>
+        <source>Expand all rows</source>
+        <translation>Alle Zeilen aufklappen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Left</source>
+        <translation>Ctrl+Left</translation>
+    </message>
+    <message>
+        <source>Collapse all rows</source>
+        <translation>Alle Zeilen zuklappen</translation>
+    </message>
+    <message>
+        <source>Nothing to filter: no message type has repeated sub-messages</source>
+        <translation>Nichts zu filtern: Kein Nachrichtentyp hat wiederholte Teilnachrichten</translation>
+    </message>
+    <message>
+        <source>No definitions are loaded, so nothing can be shown. Open a source together with the definitions of its messages.</source>
+        <translation>Keine Definitionen sind geladen, also kann nichts gezeigt werden. Öffnen Sie eine Quelle zusammen mit den Definitionen ihrer Nachrichten.</translation>
+    </message>
+    <message>
+        <source>No message has come yet. Each message type gets its row with its first message. The menu &quot;Show&quot; lists all %1 known types, messages or not.</source>
+        <translation>Noch ist keine Nachricht gekommen. Jeder Nachrichtentyp bekommt seine Zeile mit seiner ersten Nachricht. Das Menü „Zeigen“ führt alle %1 bekannten Typen auf, mit oder ohne Nachrichten.</translation>
+    </message>
+    <message>
+        <source>Choose a row to read about it here, and press the right mouse button or the menu key for what can be done with it.</source>
+        <translation>Wählen Sie eine Zeile, um hier über sie zu lesen, und drücken Sie die rechte Maustaste oder die Menütaste für das, was mit ihr getan werden kann.</translation>
     </message>
 </context>
 <context>
@@ -618,14 +874,14 @@
         <translation>Nennen Sie die Quelle: %1.</translation>
     </message>
     <message>
-        <source>Messages cannot be read without their definitions. Add the files that describe them: a MAVLink dialect (.xml), such as common.xml, or Protocol Buffers files (.proto, or a descriptor set .desc).</source>
-        <translation>Nachrichten können ohne ihre Definitionen nicht gelesen werden. Fügen Sie die Dateien hinzu, die sie beschreiben: einen MAVLink-Dialekt (.xml) wie common.xml, oder Dateien von Protocol Buffers (.proto, oder eine Deskriptorsammlung .desc).</translation>
-    </message>
-    <message>
         <source>This starts a program on this machine: %1
 Press Open again to start it.</source>
         <translation>Dies startet ein Programm auf diesem Rechner: %1
 Drücken Sie noch einmal auf „Öffnen“, um es zu starten.</translation>
+    </message>
+    <message>
+        <source>The messages of %1 cannot be read without their definitions. Add the files that describe them: for MAVLink a dialect (.xml), such as common.xml, with the files that it includes beside it; for Protocol Buffers the .proto files, or a descriptor set (.desc, .pb), and the root type.</source>
+        <translation>Die Nachrichten von %1 können ohne ihre Definitionen nicht gelesen werden. Fügen Sie die Dateien hinzu, die sie beschreiben: für MAVLink einen Dialekt (.xml) wie common.xml, mit den eingebundenen Dateien daneben; für Protocol Buffers die .proto-Dateien oder eine Deskriptorsammlung (.desc, .pb), und den Wurzeltyp.</translation>
     </message>
 </context>
 <context>
@@ -972,6 +1228,29 @@ Drücken Sie noch einmal auf „Öffnen“, um es zu starten.</translation>
         <source>Cannot record to &quot;%1&quot;: it is the file that is being read. Choose another name.</source>
         <translation>Aufzeichnen nach „%1“ nicht möglich: Es ist die Datei, die gelesen wird. Wählen Sie einen anderen Namen.</translation>
     </message>
+    <message>
+        <source>There is not enough memory to read the definitions.</source>
+        <translation>Der Speicher reicht nicht, um die Definitionen zu lesen.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::SettingsFile</name>
+    <message>
+        <source>it is no settings file</source>
+        <translation>sie ist keine Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>the value of &quot;%1&quot; is none that this program writes</source>
+        <translation>der Wert von „%1“ ist keiner, den dieses Programm schreibt</translation>
+    </message>
+    <message>
+        <source>The settings file could not be used: %1. Everything starts with its defaults; the old file is kept as &quot;%2&quot;.</source>
+        <translation>Die Einstellungsdatei konnte nicht verwendet werden: %1. Alles beginnt mit den Voreinstellungen; die alte Datei wird als „%2“ aufgehoben.</translation>
+    </message>
+    <message>
+        <source>The settings file &quot;%1&quot; could not be used: %2. Everything starts with its defaults, and nothing will be remembered.</source>
+        <translation>Die Einstellungsdatei „%1“ konnte nicht verwendet werden: %2. Alles beginnt mit den Voreinstellungen, und nichts wird gemerkt.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::StatisticsPanel</name>
@@ -1015,12 +1294,16 @@ Drücken Sie noch einmal auf „Öffnen“, um es zu starten.</translation>
         <translation>, verworfene Datagramme: %1</translation>
     </message>
     <message>
-        <source>Paused, new: %1; </source>
-        <translation>Angehalten, neu: %1; </translation>
-    </message>
-    <message>
         <source>Backlog: %1</source>
         <translation>Rückstand: %1</translation>
+    </message>
+    <message>
+        <source>The views stand still. Everything is counted all the same.</source>
+        <translation>Die Ansichten stehen still. Gezählt wird dennoch alles.</translation>
+    </message>
+    <message>
+        <source>Paused for %1 s, new messages: %2</source>
+        <translation>Angehalten seit %1 s, neue Nachrichten: %2</translation>
     </message>
 </context>
 <context>

@@ -33,6 +33,45 @@
     </message>
 </context>
 <context>
+    <name>corvane</name>
+    <message>
+        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
+        <translation>El programa se cerró antes de forma inesperada. Lo último que hizo está escrito en «%1».</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>Abrir la &amp;carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>no se puede leer (%1)</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es demasiado grande</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>no es texto</translation>
+    </message>
+    <message>
+        <source>it is no settings file</source>
+        <translation>no es un archivo de ajustes</translation>
+    </message>
+    <message>
+        <source>it holds what this program does not write</source>
+        <translation>contiene lo que este programa no escribe</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ConfidentialSwitch</name>
     <message>
         <source>Show &amp;Confidential Fields</source>
@@ -314,6 +353,71 @@
         <source>Fields of the chosen message type</source>
         <translation>Campos del tipo de mensaje elegido</translation>
     </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulario</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::HelpPanel</name>
+    <message>
+        <source>Open a source</source>
+        <translation>Abrir una fuente</translation>
+    </message>
+    <message>
+        <source>A recording, a network address, a serial port or a program, together with the files that describe its messages. Files can be dropped onto the window.</source>
+        <translation>Una grabación, una dirección de red, un puerto serie o un programa, junto con los archivos que describen sus mensajes. Se pueden soltar archivos sobre la ventana.</translation>
+    </message>
+    <message>
+        <source>Look at messages</source>
+        <translation>Mirar los mensajes</translation>
+    </message>
+    <message>
+        <source>The tree in the middle shows the last message of each type. A row that is chosen there, or in the list of types, fills the form. Choose what the tree shows in the menu Tree.</source>
+        <translation>El árbol del centro muestra el último mensaje de cada tipo. Una fila elegida ahí, o en la lista de tipos, llena el formulario. Elija en el menú Árbol lo que muestra el árbol.</translation>
+    </message>
+    <message>
+        <source>Watch some fields</source>
+        <translation>Vigilar algunos campos</translation>
+    </message>
+    <message>
+        <source>Watch and Plot take paths of fields, FORMAT.MESSAGE.FIELD; * stands for any text.</source>
+        <translation>Vigilar y Gráfica toman rutas de campos, FORMATO.MENSAJE.CAMPO; * vale por cualquier texto.</translation>
+    </message>
+    <message>
+        <source>See what is lost</source>
+        <translation>Ver lo que se pierde</translation>
+    </message>
+    <message>
+        <source>Statistics, senders and event log tell of rates, gaps, losses and damage of every message, shown or not, also while the views are paused.</source>
+        <translation>Estadísticas, emisores y registro de eventos dan las frecuencias, huecos, pérdidas y daños de cada mensaje, mostrado o no, también con las vistas en pausa.</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Conservarlo</translation>
+    </message>
+    <message>
+        <source>Record writes the bytes of the source as they come. Export writes messages or some of their fields as text for other programs.</source>
+        <translation>Grabar escribe los bytes de la fuente según llegan. Exportar escribe mensajes o algunos de sus campos como texto para otros programas.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Corvane Inspector %1
+Framework %1
+Qt %2
+Protocol Buffers %3</source>
+        <translation>Inspector Corvane %1
+Framework %1
+Qt %2
+Protocol Buffers %3</translation>
+    </message>
 </context>
 <context>
     <name>corvane::MainWindow</name>
@@ -397,6 +501,58 @@
         <source>Waiting for messages from %1.</source>
         <translation>Esperando mensajes de %1.</translation>
     </message>
+    <message>
+        <source>Show or hide the tool bar</source>
+        <translation>Mostrar u ocultar la barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Notices</source>
+        <translation>Avisos</translation>
+    </message>
+    <message>
+        <source>Close the window; what it shows is remembered</source>
+        <translation>Cerrar la ventana; lo que muestra se recuerda</translation>
+    </message>
+    <message>
+        <source>Show or hide the bar that plays recordings</source>
+        <translation>Mostrar u ocultar la barra que reproduce grabaciones</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel &quot;%1&quot;</source>
+        <translation>Mostrar u ocultar el panel «%1»</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;Uses and Keys</source>
+        <translation>&amp;Usos y teclas</translation>
+    </message>
+    <message>
+        <source>What the window is for, and all keys</source>
+        <translation>Para qué sirve la ventana, y todas las teclas</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Acerca de</translation>
+    </message>
+    <message>
+        <source>The versions of the program and of what it uses</source>
+        <translation>Las versiones del programa y de lo que usa</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
 </context>
 <context>
     <name>corvane::MessageTreePanel</name>
@@ -445,8 +601,108 @@
         <translation>Mostrar solo los submensajes repetidos en que un valor tiene este nombre</translation>
     </message>
     <message>
-        <source>Nothing to filter: no message type has repeated sub-messages with named values</source>
-        <translation>Nada que filtrar: ningún tipo de mensaje tiene submensajes repetidos con valores con nombre</translation>
+        <source>Show or hide this column</source>
+        <translation>Mostrar u ocultar esta columna</translation>
+    </message>
+    <message>
+        <source>Current Ro&amp;w</source>
+        <translation>Fila &amp;actual</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Buscar…</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find a row by name, value or path</source>
+        <translation>Buscar una fila por nombre, valor o ruta</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Buscar &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>F3</source>
+        <translation>F3</translation>
+    </message>
+    <message>
+        <source>Go to the next row that was found</source>
+        <translation>Ir a la siguiente fila encontrada</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>Buscar a&amp;nterior</translation>
+    </message>
+    <message>
+        <source>Shift+F3</source>
+        <translation>Shift+F3</translation>
+    </message>
+    <message>
+        <source>Go to the row that was found before</source>
+        <translation>Ir a la fila encontrada antes</translation>
+    </message>
+    <message>
+        <source>&amp;Units</source>
+        <translation>&amp;Unidades</translation>
+    </message>
+    <message>
+        <source>Show units beside numbers</source>
+        <translation>Mostrar unidades junto a los números</translation>
+    </message>
+    <message>
+        <source>He&amp;xadecimal</source>
+        <translation>He&amp;xadecimal</translation>
+    </message>
+    <message>
+        <source>Show integers in hexadecimal digits as well</source>
+        <translation>Mostrar también los enteros en cifras hexadecimales</translation>
+    </message>
+    <message>
+        <source>Show fields that are computed from others</source>
+        <translation>Mostrar los campos que se calculan a partir de otros</translation>
+    </message>
+    <message>
+        <source>Show details that few readers want</source>
+        <translation>Mostrar detalles que pocos lectores quieren</translation>
+    </message>
+    <message>
+        <source>Show types of which no message has come yet as well</source>
+        <translation>Mostrar también los tipos de los que aún no ha llegado ningún mensaje</translation>
+    </message>
+    <message>
+        <source>Ctrl+Right</source>
+        <translation>Ctrl+Right</translation>
+    </message>
+    <message>
+        <source>Expand all rows</source>
+        <translation>Desplegar todas las filas</translation>
+    </message>
+    <message>
+        <source>Ctrl+Left</source>
+        <translation>Ctrl+Left</translation>
+    </message>
+    <message>
+        <source>Collapse all rows</source>
+        <translation>Plegar todas las filas</translation>
+    </message>
+    <message>
+        <source>Nothing to filter: no message type has repeated sub-messages</source>
+        <translation>Nada que filtrar: ningún tipo de mensaje tiene submensajes repetidos</translation>
+    </message>
+    <message>
+        <source>No definitions are loaded, so nothing can be shown. Open a source together with the definitions of its messages.</source>
+        <translation>No hay definiciones cargadas, así que no se puede mostrar nada. Abra una fuente junto con las definiciones de sus mensajes.</translation>
+    </message>
+    <message>
+        <source>No message has come yet. Each message type gets its row with its first message. The menu &quot;Show&quot; lists all %1 known types, messages or not.</source>
+        <translation>Aún no ha llegado ningún mensaje. Cada tipo de mensaje recibe su fila con su primer mensaje. El menú «Mostrar» enumera los %1 tipos conocidos, con mensajes o sin ellos.</translation>
+    </message>
+    <message>
+        <source>Choose a row to read about it here, and press the right mouse button or the menu key for what can be done with it.</source>
+        <translation>Elija una fila para leer aquí sobre ella, y pulse el botón derecho del ratón o la tecla de menú para lo que se puede hacer con ella.</translation>
     </message>
 </context>
 <context>
@@ -618,14 +874,14 @@
         <translation>Indique la fuente: %1.</translation>
     </message>
     <message>
-        <source>Messages cannot be read without their definitions. Add the files that describe them: a MAVLink dialect (.xml), such as common.xml, or Protocol Buffers files (.proto, or a descriptor set .desc).</source>
-        <translation>Los mensajes no se pueden leer sin sus definiciones. Añada los archivos que los describen: un dialecto MAVLink (.xml), como common.xml, o archivos de Protocol Buffers (.proto, o un conjunto de descriptores .desc).</translation>
-    </message>
-    <message>
         <source>This starts a program on this machine: %1
 Press Open again to start it.</source>
         <translation>Esto inicia un programa en esta máquina: %1
 Pulse Abrir otra vez para iniciarlo.</translation>
+    </message>
+    <message>
+        <source>The messages of %1 cannot be read without their definitions. Add the files that describe them: for MAVLink a dialect (.xml), such as common.xml, with the files that it includes beside it; for Protocol Buffers the .proto files, or a descriptor set (.desc, .pb), and the root type.</source>
+        <translation>Los mensajes de %1 no se pueden leer sin sus definiciones. Añada los archivos que los describen: para MAVLink un dialecto (.xml), como common.xml, con los archivos que incluye a su lado; para Protocol Buffers los archivos .proto, o un conjunto de descriptores (.desc, .pb), y el tipo raíz.</translation>
     </message>
 </context>
 <context>
@@ -972,6 +1228,29 @@ Pulse Abrir otra vez para iniciarlo.</translation>
         <source>Cannot record to &quot;%1&quot;: it is the file that is being read. Choose another name.</source>
         <translation>No se puede grabar en «%1»: es el archivo que se está leyendo. Elija otro nombre.</translation>
     </message>
+    <message>
+        <source>There is not enough memory to read the definitions.</source>
+        <translation>No hay memoria suficiente para leer las definiciones.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::SettingsFile</name>
+    <message>
+        <source>it is no settings file</source>
+        <translation>no es un archivo de ajustes</translation>
+    </message>
+    <message>
+        <source>the value of &quot;%1&quot; is none that this program writes</source>
+        <translation>el valor de «%1» no es de los que escribe este programa</translation>
+    </message>
+    <message>
+        <source>The settings file could not be used: %1. Everything starts with its defaults; the old file is kept as &quot;%2&quot;.</source>
+        <translation>El archivo de ajustes no se pudo usar: %1. Todo empieza con los valores predeterminados; el archivo antiguo se conserva como «%2».</translation>
+    </message>
+    <message>
+        <source>The settings file &quot;%1&quot; could not be used: %2. Everything starts with its defaults, and nothing will be remembered.</source>
+        <translation>El archivo de ajustes «%1» no se pudo usar: %2. Todo empieza con los valores predeterminados y no se recordará nada.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::StatisticsPanel</name>
@@ -1015,12 +1294,16 @@ Pulse Abrir otra vez para iniciarlo.</translation>
         <translation>, datagramas descartados: %1</translation>
     </message>
     <message>
-        <source>Paused, new: %1; </source>
-        <translation>En pausa, nuevos: %1; </translation>
-    </message>
-    <message>
         <source>Backlog: %1</source>
         <translation>Atraso: %1</translation>
+    </message>
+    <message>
+        <source>The views stand still. Everything is counted all the same.</source>
+        <translation>Las vistas están quietas. Se cuenta todo igualmente.</translation>
+    </message>
+    <message>
+        <source>Paused for %1 s, new messages: %2</source>
+        <translation>En pausa desde hace %1 s, mensajes nuevos: %2</translation>
     </message>
 </context>
 <context>

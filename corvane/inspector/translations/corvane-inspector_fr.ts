@@ -33,6 +33,45 @@
     </message>
 </context>
 <context>
+    <name>corvane</name>
+    <message>
+        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
+        <translation>Le programme s’est arrêté brutalement. Ce qu’il a fait en dernier est écrit dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>Ouvrir le &amp;dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>il ne peut pas être lu (%1)</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop grand</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>ce n’est pas du texte</translation>
+    </message>
+    <message>
+        <source>it is no settings file</source>
+        <translation>ce n’est pas un fichier de réglages</translation>
+    </message>
+    <message>
+        <source>it holds what this program does not write</source>
+        <translation>il contient ce que ce programme n’écrit pas</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ConfidentialSwitch</name>
     <message>
         <source>Show &amp;Confidential Fields</source>
@@ -314,6 +353,71 @@
         <source>Fields of the chosen message type</source>
         <translation>Champs du type de message choisi</translation>
     </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulaire</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::HelpPanel</name>
+    <message>
+        <source>Open a source</source>
+        <translation>Ouvrir une source</translation>
+    </message>
+    <message>
+        <source>A recording, a network address, a serial port or a program, together with the files that describe its messages. Files can be dropped onto the window.</source>
+        <translation>Un enregistrement, une adresse de réseau, un port série ou un programme, avec les fichiers qui en décrivent les messages. Des fichiers peuvent être déposés sur la fenêtre.</translation>
+    </message>
+    <message>
+        <source>Look at messages</source>
+        <translation>Regarder les messages</translation>
+    </message>
+    <message>
+        <source>The tree in the middle shows the last message of each type. A row that is chosen there, or in the list of types, fills the form. Choose what the tree shows in the menu Tree.</source>
+        <translation>L’arbre au milieu montre le dernier message de chaque type. Une ligne choisie là, ou dans la liste des types, remplit le formulaire. Choisissez dans le menu Arbre ce que l’arbre montre.</translation>
+    </message>
+    <message>
+        <source>Watch some fields</source>
+        <translation>Surveiller quelques champs</translation>
+    </message>
+    <message>
+        <source>Watch and Plot take paths of fields, FORMAT.MESSAGE.FIELD; * stands for any text.</source>
+        <translation>Surveiller et Courbe prennent des chemins de champs, FORMAT.MESSAGE.CHAMP&#x202f;; * remplace tout texte.</translation>
+    </message>
+    <message>
+        <source>See what is lost</source>
+        <translation>Voir ce qui se perd</translation>
+    </message>
+    <message>
+        <source>Statistics, senders and event log tell of rates, gaps, losses and damage of every message, shown or not, also while the views are paused.</source>
+        <translation>Statistiques, émetteurs et journal d’événements disent les cadences, trous, pertes et dommages de chaque message, montré ou non, même quand les vues sont figées.</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Le garder</translation>
+    </message>
+    <message>
+        <source>Record writes the bytes of the source as they come. Export writes messages or some of their fields as text for other programs.</source>
+        <translation>Enregistrer écrit les octets de la source comme ils arrivent. Exporter écrit des messages ou certains de leurs champs sous forme de texte pour d’autres programmes.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Corvane Inspector %1
+Framework %1
+Qt %2
+Protocol Buffers %3</source>
+        <translation>Inspecteur Corvane %1
+Framework %1
+Qt %2
+Protocol Buffers %3</translation>
+    </message>
 </context>
 <context>
     <name>corvane::MainWindow</name>
@@ -397,6 +501,58 @@
         <source>Waiting for messages from %1.</source>
         <translation>En attente de messages de %1.</translation>
     </message>
+    <message>
+        <source>Show or hide the tool bar</source>
+        <translation>Montrer ou cacher la barre d’outils</translation>
+    </message>
+    <message>
+        <source>Notices</source>
+        <translation>Avis</translation>
+    </message>
+    <message>
+        <source>Close the window; what it shows is remembered</source>
+        <translation>Fermer la fenêtre&#x202f;; ce qu’elle montre est retenu</translation>
+    </message>
+    <message>
+        <source>Show or hide the bar that plays recordings</source>
+        <translation>Montrer ou cacher la barre de lecture des enregistrements</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Octets</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel &quot;%1&quot;</source>
+        <translation>Montrer ou cacher le panneau «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;Uses and Keys</source>
+        <translation>&amp;Usages et touches</translation>
+    </message>
+    <message>
+        <source>What the window is for, and all keys</source>
+        <translation>À quoi sert la fenêtre, et toutes les touches</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>À &amp;propos</translation>
+    </message>
+    <message>
+        <source>The versions of the program and of what it uses</source>
+        <translation>Les versions du programme et de ce qu’il utilise</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
 </context>
 <context>
     <name>corvane::MessageTreePanel</name>
@@ -445,8 +601,108 @@
         <translation>Ne montrer que les sous-messages répétés dont une valeur porte ce nom</translation>
     </message>
     <message>
-        <source>Nothing to filter: no message type has repeated sub-messages with named values</source>
-        <translation>Rien à filtrer&#xa0;: aucun type de message n’a de sous-messages répétés à valeurs nommées</translation>
+        <source>Show or hide this column</source>
+        <translation>Montrer ou cacher cette colonne</translation>
+    </message>
+    <message>
+        <source>Current Ro&amp;w</source>
+        <translation>Li&amp;gne courante</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Chercher…</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find a row by name, value or path</source>
+        <translation>Chercher une ligne par nom, valeur ou chemin</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Chercher le &amp;suivant</translation>
+    </message>
+    <message>
+        <source>F3</source>
+        <translation>F3</translation>
+    </message>
+    <message>
+        <source>Go to the next row that was found</source>
+        <translation>Aller à la ligne trouvée suivante</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>Chercher le &amp;précédent</translation>
+    </message>
+    <message>
+        <source>Shift+F3</source>
+        <translation>Shift+F3</translation>
+    </message>
+    <message>
+        <source>Go to the row that was found before</source>
+        <translation>Aller à la ligne trouvée avant</translation>
+    </message>
+    <message>
+        <source>&amp;Units</source>
+        <translation>&amp;Unités</translation>
+    </message>
+    <message>
+        <source>Show units beside numbers</source>
+        <translation>Montrer les unités à côté des nombres</translation>
+    </message>
+    <message>
+        <source>He&amp;xadecimal</source>
+        <translation>He&amp;xadécimal</translation>
+    </message>
+    <message>
+        <source>Show integers in hexadecimal digits as well</source>
+        <translation>Montrer aussi les entiers en chiffres hexadécimaux</translation>
+    </message>
+    <message>
+        <source>Show fields that are computed from others</source>
+        <translation>Montrer les champs calculés à partir d’autres</translation>
+    </message>
+    <message>
+        <source>Show details that few readers want</source>
+        <translation>Montrer les détails que peu de lecteurs veulent</translation>
+    </message>
+    <message>
+        <source>Show types of which no message has come yet as well</source>
+        <translation>Montrer aussi les types dont aucun message n’est encore arrivé</translation>
+    </message>
+    <message>
+        <source>Ctrl+Right</source>
+        <translation>Ctrl+Right</translation>
+    </message>
+    <message>
+        <source>Expand all rows</source>
+        <translation>Déplier toutes les lignes</translation>
+    </message>
+    <message>
+        <source>Ctrl+Left</source>
+        <translation>Ctrl+Left</translation>
+    </message>
+    <message>
+        <source>Collapse all rows</source>
+        <translation>Replier toutes les lignes</translation>
+    </message>
+    <message>
+        <source>Nothing to filter: no message type has repeated sub-messages</source>
+        <translation>Rien à filtrer&#xa0;: aucun type de message n’a de sous-messages répétés</translation>
+    </message>
+    <message>
+        <source>No definitions are loaded, so nothing can be shown. Open a source together with the definitions of its messages.</source>
+        <translation>Aucune définition n’est chargée, rien ne peut donc être montré. Ouvrez une source avec les définitions de ses messages.</translation>
+    </message>
+    <message>
+        <source>No message has come yet. Each message type gets its row with its first message. The menu &quot;Show&quot; lists all %1 known types, messages or not.</source>
+        <translation>Aucun message n’est encore arrivé. Chaque type de message reçoit sa ligne avec son premier message. Le menu «&#xa0;Afficher&#xa0;» énumère les %1 types connus, avec ou sans messages.</translation>
+    </message>
+    <message>
+        <source>Choose a row to read about it here, and press the right mouse button or the menu key for what can be done with it.</source>
+        <translation>Choisissez une ligne pour lire ici ce qui la concerne, et appuyez sur le bouton droit de la souris ou la touche de menu pour ce qu’on peut en faire.</translation>
     </message>
 </context>
 <context>
@@ -618,14 +874,14 @@
         <translation>Indiquez la source&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>Messages cannot be read without their definitions. Add the files that describe them: a MAVLink dialect (.xml), such as common.xml, or Protocol Buffers files (.proto, or a descriptor set .desc).</source>
-        <translation>Les messages ne peuvent pas être lus sans leurs définitions. Ajoutez les fichiers qui les décrivent&#xa0;: un dialecte MAVLink (.xml) comme common.xml, ou des fichiers Protocol Buffers (.proto, ou un jeu de descripteurs .desc).</translation>
-    </message>
-    <message>
         <source>This starts a program on this machine: %1
 Press Open again to start it.</source>
         <translation>Ceci démarre un programme sur cette machine&#xa0;: %1
 Appuyez encore sur Ouvrir pour le démarrer.</translation>
+    </message>
+    <message>
+        <source>The messages of %1 cannot be read without their definitions. Add the files that describe them: for MAVLink a dialect (.xml), such as common.xml, with the files that it includes beside it; for Protocol Buffers the .proto files, or a descriptor set (.desc, .pb), and the root type.</source>
+        <translation>Les messages de %1 ne peuvent pas être lus sans leurs définitions. Ajoutez les fichiers qui les décrivent&#xa0;: pour MAVLink un dialecte (.xml) comme common.xml, avec à côté les fichiers qu’il inclut&#x202f;; pour Protocol Buffers les fichiers .proto, ou un jeu de descripteurs (.desc, .pb), et le type racine.</translation>
     </message>
 </context>
 <context>
@@ -972,6 +1228,29 @@ Appuyez encore sur Ouvrir pour le démarrer.</translation>
         <source>Cannot record to &quot;%1&quot;: it is the file that is being read. Choose another name.</source>
         <translation>Impossible d’enregistrer dans «&#xa0;%1&#xa0;»&#xa0;: c’est le fichier en cours de lecture. Choisissez un autre nom.</translation>
     </message>
+    <message>
+        <source>There is not enough memory to read the definitions.</source>
+        <translation>Il n’y a pas assez de mémoire pour lire les définitions.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::SettingsFile</name>
+    <message>
+        <source>it is no settings file</source>
+        <translation>ce n’est pas un fichier de réglages</translation>
+    </message>
+    <message>
+        <source>the value of &quot;%1&quot; is none that this program writes</source>
+        <translation>la valeur de «&#xa0;%1&#xa0;» n’est pas de celles que ce programme écrit</translation>
+    </message>
+    <message>
+        <source>The settings file could not be used: %1. Everything starts with its defaults; the old file is kept as &quot;%2&quot;.</source>
+        <translation>Le fichier de réglages n’a pas pu être utilisé&#xa0;: %1. Tout commence avec les valeurs par défaut&#x202f;; l’ancien fichier est gardé sous «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The settings file &quot;%1&quot; could not be used: %2. Everything starts with its defaults, and nothing will be remembered.</source>
+        <translation>Le fichier de réglages «&#xa0;%1&#xa0;» n’a pas pu être utilisé&#xa0;: %2. Tout commence avec les valeurs par défaut, et rien ne sera retenu.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::StatisticsPanel</name>
@@ -1015,12 +1294,16 @@ Appuyez encore sur Ouvrir pour le démarrer.</translation>
         <translation>, datagrammes rejetés&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Paused, new: %1; </source>
-        <translation>Figé, nouveaux&#xa0;: %1&#x202f;; </translation>
-    </message>
-    <message>
         <source>Backlog: %1</source>
         <translation>Retard&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The views stand still. Everything is counted all the same.</source>
+        <translation>Les vues sont figées. Tout est compté quand même.</translation>
+    </message>
+    <message>
+        <source>Paused for %1 s, new messages: %2</source>
+        <translation>Figé depuis %1 s, nouveaux messages&#xa0;: %2</translation>
     </message>
 </context>
 <context>

@@ -33,6 +33,45 @@
     </message>
 </context>
 <context>
+    <name>corvane</name>
+    <message>
+        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
+        <translation>プログラムは前回異常終了しました。最後に行ったことは「%1」に書かれています。</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>フォルダーを開く(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>読めません（%1)</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>テキストではありません</translation>
+    </message>
+    <message>
+        <source>it is no settings file</source>
+        <translation>設定ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it holds what this program does not write</source>
+        <translation>このプログラムが書かない内容が含まれています</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ConfidentialSwitch</name>
     <message>
         <source>Show &amp;Confidential Fields</source>
@@ -314,6 +353,71 @@
         <source>Fields of the chosen message type</source>
         <translation>選んだメッセージ型のフィールド</translation>
     </message>
+    <message>
+        <source>Form</source>
+        <translation>フォーム</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::HelpPanel</name>
+    <message>
+        <source>Open a source</source>
+        <translation>入力元を開く</translation>
+    </message>
+    <message>
+        <source>A recording, a network address, a serial port or a program, together with the files that describe its messages. Files can be dropped onto the window.</source>
+        <translation>記録、ネットワークアドレス、シリアルポート、またはプログラムと、そのメッセージを記述するファイル。ファイルはウィンドウにドロップできます。</translation>
+    </message>
+    <message>
+        <source>Look at messages</source>
+        <translation>メッセージを見る</translation>
+    </message>
+    <message>
+        <source>The tree in the middle shows the last message of each type. A row that is chosen there, or in the list of types, fills the form. Choose what the tree shows in the menu Tree.</source>
+        <translation>中央のツリーは各型の最後のメッセージを表示します。そこ、または型の一覧で選んだ行がフォームに表示されます。ツリーに表示するものはメニュー「ツリー」で選びます。</translation>
+    </message>
+    <message>
+        <source>Watch some fields</source>
+        <translation>いくつかのフィールドを監視する</translation>
+    </message>
+    <message>
+        <source>Watch and Plot take paths of fields, FORMAT.MESSAGE.FIELD; * stands for any text.</source>
+        <translation>「監視」と「グラフ」はフィールドのパス FORMAT.MESSAGE.FIELD を使います。* は任意の文字列です。</translation>
+    </message>
+    <message>
+        <source>See what is lost</source>
+        <translation>失われたものを見る</translation>
+    </message>
+    <message>
+        <source>Statistics, senders and event log tell of rates, gaps, losses and damage of every message, shown or not, also while the views are paused.</source>
+        <translation>統計、送信元、イベントログは、表示の有無にかかわらず、表示の一時停止中も、各メッセージのレート、欠落、消失、破損を示します。</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>保存する</translation>
+    </message>
+    <message>
+        <source>Record writes the bytes of the source as they come. Export writes messages or some of their fields as text for other programs.</source>
+        <translation>「記録」は入力元のバイトを届いたまま書きます。「エクスポート」はメッセージまたはその一部のフィールドを他のプログラム向けのテキストとして書きます。</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Corvane Inspector %1
+Framework %1
+Qt %2
+Protocol Buffers %3</source>
+        <translation>Corvane インスペクター %1
+フレームワーク %1
+Qt %2
+Protocol Buffers %3</translation>
+    </message>
 </context>
 <context>
     <name>corvane::MainWindow</name>
@@ -397,6 +501,58 @@
         <source>Waiting for messages from %1.</source>
         <translation>%1 からのメッセージを待っています。</translation>
     </message>
+    <message>
+        <source>Show or hide the tool bar</source>
+        <translation>ツールバーの表示と非表示を切り替えます</translation>
+    </message>
+    <message>
+        <source>Notices</source>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>Close the window; what it shows is remembered</source>
+        <translation>ウィンドウを閉じます。表示内容は記憶されます</translation>
+    </message>
+    <message>
+        <source>Show or hide the bar that plays recordings</source>
+        <translation>記録を再生するバーの表示と非表示を切り替えます</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>バイト</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel &quot;%1&quot;</source>
+        <translation>パネル「%1」の表示と非表示を切り替えます</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Uses and Keys</source>
+        <translation>使い方とキー(&amp;U)</translation>
+    </message>
+    <message>
+        <source>What the window is for, and all keys</source>
+        <translation>ウィンドウの使い道とすべてのキー</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>バージョン情報(&amp;A)</translation>
+    </message>
+    <message>
+        <source>The versions of the program and of what it uses</source>
+        <translation>プログラムとそれが使うもののバージョン</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
 </context>
 <context>
     <name>corvane::MessageTreePanel</name>
@@ -445,8 +601,108 @@
         <translation>値がこの名前を持つ繰り返しサブメッセージだけを表示します</translation>
     </message>
     <message>
-        <source>Nothing to filter: no message type has repeated sub-messages with named values</source>
-        <translation>フィルターの対象なし: 名前付きの値を持つ繰り返しサブメッセージのあるメッセージ型がありません</translation>
+        <source>Show or hide this column</source>
+        <translation>この列の表示と非表示を切り替えます</translation>
+    </message>
+    <message>
+        <source>Current Ro&amp;w</source>
+        <translation>現在の行(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>検索(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find a row by name, value or path</source>
+        <translation>名前、値、パスで行を探します</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>次を検索(&amp;N)</translation>
+    </message>
+    <message>
+        <source>F3</source>
+        <translation>F3</translation>
+    </message>
+    <message>
+        <source>Go to the next row that was found</source>
+        <translation>次に見つかった行へ移動します</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>前を検索(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Shift+F3</source>
+        <translation>Shift+F3</translation>
+    </message>
+    <message>
+        <source>Go to the row that was found before</source>
+        <translation>前に見つかった行へ移動します</translation>
+    </message>
+    <message>
+        <source>&amp;Units</source>
+        <translation>単位(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Show units beside numbers</source>
+        <translation>数の横に単位を表示します</translation>
+    </message>
+    <message>
+        <source>He&amp;xadecimal</source>
+        <translation>16 進数(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Show integers in hexadecimal digits as well</source>
+        <translation>整数を 16 進数でも表示します</translation>
+    </message>
+    <message>
+        <source>Show fields that are computed from others</source>
+        <translation>他のフィールドから計算されるフィールドを表示します</translation>
+    </message>
+    <message>
+        <source>Show details that few readers want</source>
+        <translation>必要とする人の少ない詳細を表示します</translation>
+    </message>
+    <message>
+        <source>Show types of which no message has come yet as well</source>
+        <translation>まだメッセージの届いていない型も表示します</translation>
+    </message>
+    <message>
+        <source>Ctrl+Right</source>
+        <translation>Ctrl+Right</translation>
+    </message>
+    <message>
+        <source>Expand all rows</source>
+        <translation>すべての行を展開します</translation>
+    </message>
+    <message>
+        <source>Ctrl+Left</source>
+        <translation>Ctrl+Left</translation>
+    </message>
+    <message>
+        <source>Collapse all rows</source>
+        <translation>すべての行を折りたたみます</translation>
+    </message>
+    <message>
+        <source>Nothing to filter: no message type has repeated sub-messages</source>
+        <translation>フィルターの対象なし: 繰り返しサブメッセージのあるメッセージ型がありません</translation>
+    </message>
+    <message>
+        <source>No definitions are loaded, so nothing can be shown. Open a source together with the definitions of its messages.</source>
+        <translation>定義が読み込まれていないため、何も表示できません。入力元をそのメッセージの定義とともに開いてください。</translation>
+    </message>
+    <message>
+        <source>No message has come yet. Each message type gets its row with its first message. The menu &quot;Show&quot; lists all %1 known types, messages or not.</source>
+        <translation>まだメッセージが届いていません。各メッセージ型は最初のメッセージで行を得ます。メニュー「表示」は、メッセージの有無にかかわらず既知の %1 個の型をすべて並べます。</translation>
+    </message>
+    <message>
+        <source>Choose a row to read about it here, and press the right mouse button or the menu key for what can be done with it.</source>
+        <translation>行を選ぶとここに説明が出ます。右クリックまたはメニューキーで、その行にできることが出ます。</translation>
     </message>
 </context>
 <context>
@@ -618,14 +874,14 @@
         <translation>入力元を指定してください: %1。</translation>
     </message>
     <message>
-        <source>Messages cannot be read without their definitions. Add the files that describe them: a MAVLink dialect (.xml), such as common.xml, or Protocol Buffers files (.proto, or a descriptor set .desc).</source>
-        <translation>メッセージは定義なしでは読めません。それを記述するファイルを追加してください: common.xml のような MAVLink の方言 (.xml）、または Protocol Buffers のファイル（.proto、または記述子セット .desc）。</translation>
-    </message>
-    <message>
         <source>This starts a program on this machine: %1
 Press Open again to start it.</source>
         <translation>このコンピューターでプログラムを起動します: %1
 起動するには「開く」をもう一度押してください。</translation>
+    </message>
+    <message>
+        <source>The messages of %1 cannot be read without their definitions. Add the files that describe them: for MAVLink a dialect (.xml), such as common.xml, with the files that it includes beside it; for Protocol Buffers the .proto files, or a descriptor set (.desc, .pb), and the root type.</source>
+        <translation>%1 のメッセージは定義なしでは読めません。それを記述するファイルを追加してください: MAVLink には common.xml のような方言 (.xml) と、それが取り込むファイルを同じ場所に。Protocol Buffers には .proto ファイルまたは記述子セット (.desc, .pb) と、ルートの型を。</translation>
     </message>
 </context>
 <context>
@@ -972,6 +1228,29 @@ Press Open again to start it.</source>
         <source>Cannot record to &quot;%1&quot;: it is the file that is being read. Choose another name.</source>
         <translation>「%1」に記録できません: 読み取り中のファイルです。別の名前を選んでください。</translation>
     </message>
+    <message>
+        <source>There is not enough memory to read the definitions.</source>
+        <translation>定義を読むためのメモリーが足りません。</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::SettingsFile</name>
+    <message>
+        <source>it is no settings file</source>
+        <translation>設定ファイルではありません</translation>
+    </message>
+    <message>
+        <source>the value of &quot;%1&quot; is none that this program writes</source>
+        <translation>「%1」の値はこのプログラムが書くものではありません</translation>
+    </message>
+    <message>
+        <source>The settings file could not be used: %1. Everything starts with its defaults; the old file is kept as &quot;%2&quot;.</source>
+        <translation>設定ファイルを使えませんでした: %1。すべて既定値で始まります。古いファイルは「%2」として残してあります。</translation>
+    </message>
+    <message>
+        <source>The settings file &quot;%1&quot; could not be used: %2. Everything starts with its defaults, and nothing will be remembered.</source>
+        <translation>設定ファイル「%1」を使えませんでした: %2。すべて既定値で始まり、何も記憶されません。</translation>
+    </message>
 </context>
 <context>
     <name>corvane::StatisticsPanel</name>
@@ -1015,12 +1294,16 @@ Press Open again to start it.</source>
         <translation>、破棄されたデータグラム: %1</translation>
     </message>
     <message>
-        <source>Paused, new: %1; </source>
-        <translation>一時停止、新着: %1。</translation>
-    </message>
-    <message>
         <source>Backlog: %1</source>
         <translation>未処理: %1</translation>
+    </message>
+    <message>
+        <source>The views stand still. Everything is counted all the same.</source>
+        <translation>表示は止まっています。それでもすべて数えています。</translation>
+    </message>
+    <message>
+        <source>Paused for %1 s, new messages: %2</source>
+        <translation>一時停止 %1 秒、新着メッセージ: %2</translation>
     </message>
 </context>
 <context>

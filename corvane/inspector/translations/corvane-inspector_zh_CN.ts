@@ -33,6 +33,45 @@
     </message>
 </context>
 <context>
+    <name>corvane</name>
+    <message>
+        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
+        <translation>程序之前崩溃过。它最后的操作写在“%1”中。</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>打开文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>以后</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>无法读取（%1)</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>太大</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>不是文本</translation>
+    </message>
+    <message>
+        <source>it is no settings file</source>
+        <translation>不是设置文件</translation>
+    </message>
+    <message>
+        <source>it holds what this program does not write</source>
+        <translation>包含本程序不会写入的内容</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ConfidentialSwitch</name>
     <message>
         <source>Show &amp;Confidential Fields</source>
@@ -314,6 +353,71 @@
         <source>Fields of the chosen message type</source>
         <translation>所选消息类型的字段</translation>
     </message>
+    <message>
+        <source>Form</source>
+        <translation>表单</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::HelpPanel</name>
+    <message>
+        <source>Open a source</source>
+        <translation>打开数据源</translation>
+    </message>
+    <message>
+        <source>A recording, a network address, a serial port or a program, together with the files that describe its messages. Files can be dropped onto the window.</source>
+        <translation>录制、网络地址、串口或程序，以及描述其消息的文件。可以将文件拖放到窗口上。</translation>
+    </message>
+    <message>
+        <source>Look at messages</source>
+        <translation>查看消息</translation>
+    </message>
+    <message>
+        <source>The tree in the middle shows the last message of each type. A row that is chosen there, or in the list of types, fills the form. Choose what the tree shows in the menu Tree.</source>
+        <translation>中间的树显示每种类型的最后一条消息。在树或类型列表中选择的行会填入表单。在“树”菜单中选择树显示的内容。</translation>
+    </message>
+    <message>
+        <source>Watch some fields</source>
+        <translation>监视若干字段</translation>
+    </message>
+    <message>
+        <source>Watch and Plot take paths of fields, FORMAT.MESSAGE.FIELD; * stands for any text.</source>
+        <translation>“监视”和“曲线图”使用字段的路径 FORMAT.MESSAGE.FIELD;* 代表任意文本。</translation>
+    </message>
+    <message>
+        <source>See what is lost</source>
+        <translation>查看丢失的内容</translation>
+    </message>
+    <message>
+        <source>Statistics, senders and event log tell of rates, gaps, losses and damage of every message, shown or not, also while the views are paused.</source>
+        <translation>统计、发送方和事件日志说明每条消息的速率、缺口、丢失和损坏，无论是否显示，视图暂停时也一样。</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>保存下来</translation>
+    </message>
+    <message>
+        <source>Record writes the bytes of the source as they come. Export writes messages or some of their fields as text for other programs.</source>
+        <translation>“录制”将数据源的字节原样写入。“导出”将消息或其部分字段写为文本，供其他程序使用。</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Corvane Inspector %1
+Framework %1
+Qt %2
+Protocol Buffers %3</source>
+        <translation>Corvane 检查器 %1
+框架 %1
+Qt %2
+Protocol Buffers %3</translation>
+    </message>
 </context>
 <context>
     <name>corvane::MainWindow</name>
@@ -397,6 +501,58 @@
         <source>Waiting for messages from %1.</source>
         <translation>正在等待来自 %1 的消息。</translation>
     </message>
+    <message>
+        <source>Show or hide the tool bar</source>
+        <translation>显示或隐藏工具栏</translation>
+    </message>
+    <message>
+        <source>Notices</source>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>Close the window; what it shows is remembered</source>
+        <translation>关闭窗口；其显示的内容会被记住</translation>
+    </message>
+    <message>
+        <source>Show or hide the bar that plays recordings</source>
+        <translation>显示或隐藏播放录制的工具栏</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>字节</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel &quot;%1&quot;</source>
+        <translation>显示或隐藏面板“%1”</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Uses and Keys</source>
+        <translation>用途和按键(&amp;U)</translation>
+    </message>
+    <message>
+        <source>What the window is for, and all keys</source>
+        <translation>窗口的用途以及所有按键</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
+    </message>
+    <message>
+        <source>The versions of the program and of what it uses</source>
+        <translation>程序及其所用组件的版本</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
 </context>
 <context>
     <name>corvane::MessageTreePanel</name>
@@ -445,8 +601,108 @@
         <translation>仅显示某个值具有此名称的重复子消息</translation>
     </message>
     <message>
-        <source>Nothing to filter: no message type has repeated sub-messages with named values</source>
-        <translation>没有可筛选的内容：没有消息类型含有带命名值的重复子消息</translation>
+        <source>Show or hide this column</source>
+        <translation>显示或隐藏此列</translation>
+    </message>
+    <message>
+        <source>Current Ro&amp;w</source>
+        <translation>当前行(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>查找(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find a row by name, value or path</source>
+        <translation>按名称、值或路径查找行</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>查找下一个(&amp;N)</translation>
+    </message>
+    <message>
+        <source>F3</source>
+        <translation>F3</translation>
+    </message>
+    <message>
+        <source>Go to the next row that was found</source>
+        <translation>转到找到的下一行</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>查找上一个(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Shift+F3</source>
+        <translation>Shift+F3</translation>
+    </message>
+    <message>
+        <source>Go to the row that was found before</source>
+        <translation>转到之前找到的行</translation>
+    </message>
+    <message>
+        <source>&amp;Units</source>
+        <translation>单位(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Show units beside numbers</source>
+        <translation>在数字旁显示单位</translation>
+    </message>
+    <message>
+        <source>He&amp;xadecimal</source>
+        <translation>十六进制(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Show integers in hexadecimal digits as well</source>
+        <translation>同时以十六进制显示整数</translation>
+    </message>
+    <message>
+        <source>Show fields that are computed from others</source>
+        <translation>显示由其他字段计算得出的字段</translation>
+    </message>
+    <message>
+        <source>Show details that few readers want</source>
+        <translation>显示少数人需要的细节</translation>
+    </message>
+    <message>
+        <source>Show types of which no message has come yet as well</source>
+        <translation>同时显示尚未收到消息的类型</translation>
+    </message>
+    <message>
+        <source>Ctrl+Right</source>
+        <translation>Ctrl+Right</translation>
+    </message>
+    <message>
+        <source>Expand all rows</source>
+        <translation>展开所有行</translation>
+    </message>
+    <message>
+        <source>Ctrl+Left</source>
+        <translation>Ctrl+Left</translation>
+    </message>
+    <message>
+        <source>Collapse all rows</source>
+        <translation>折叠所有行</translation>
+    </message>
+    <message>
+        <source>Nothing to filter: no message type has repeated sub-messages</source>
+        <translation>没有可筛选的内容：没有消息类型含有重复子消息</translation>
+    </message>
+    <message>
+        <source>No definitions are loaded, so nothing can be shown. Open a source together with the definitions of its messages.</source>
+        <translation>未加载定义，因此无法显示任何内容。请将数据源与其消息的定义一起打开。</translation>
+    </message>
+    <message>
+        <source>No message has come yet. Each message type gets its row with its first message. The menu &quot;Show&quot; lists all %1 known types, messages or not.</source>
+        <translation>尚未收到消息。每种消息类型在收到第一条消息时获得自己的行。“显示”菜单可列出全部 %1 种已知类型，无论有无消息。</translation>
+    </message>
+    <message>
+        <source>Choose a row to read about it here, and press the right mouse button or the menu key for what can be done with it.</source>
+        <translation>选择一行以在此阅读其说明，按鼠标右键或菜单键查看可对其执行的操作。</translation>
     </message>
 </context>
 <context>
@@ -618,14 +874,14 @@
         <translation>请指定数据源：%1。</translation>
     </message>
     <message>
-        <source>Messages cannot be read without their definitions. Add the files that describe them: a MAVLink dialect (.xml), such as common.xml, or Protocol Buffers files (.proto, or a descriptor set .desc).</source>
-        <translation>没有定义就无法读取消息。请添加描述消息的文件：MAVLink 方言 (.xml)，例如 common.xml，或 Protocol Buffers 文件（.proto，或描述符集 .desc）。</translation>
-    </message>
-    <message>
         <source>This starts a program on this machine: %1
 Press Open again to start it.</source>
         <translation>这将在本机启动程序：%1
 再次按“打开”以启动它。</translation>
+    </message>
+    <message>
+        <source>The messages of %1 cannot be read without their definitions. Add the files that describe them: for MAVLink a dialect (.xml), such as common.xml, with the files that it includes beside it; for Protocol Buffers the .proto files, or a descriptor set (.desc, .pb), and the root type.</source>
+        <translation>没有定义就无法读取 %1 的消息。请添加描述消息的文件：MAVLink 使用方言 (.xml)，例如 common.xml，其包含的文件应在旁边；Protocol Buffers 使用 .proto 文件或描述符集 (.desc, .pb)，以及根类型。</translation>
     </message>
 </context>
 <context>
@@ -972,6 +1228,29 @@ Press Open again to start it.</source>
         <source>Cannot record to &quot;%1&quot;: it is the file that is being read. Choose another name.</source>
         <translation>无法录制到“%1”：它是正在读取的文件。请选择其他名称。</translation>
     </message>
+    <message>
+        <source>There is not enough memory to read the definitions.</source>
+        <translation>内存不足，无法读取定义。</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::SettingsFile</name>
+    <message>
+        <source>it is no settings file</source>
+        <translation>不是设置文件</translation>
+    </message>
+    <message>
+        <source>the value of &quot;%1&quot; is none that this program writes</source>
+        <translation>“%1”的值不是本程序会写入的值</translation>
+    </message>
+    <message>
+        <source>The settings file could not be used: %1. Everything starts with its defaults; the old file is kept as &quot;%2&quot;.</source>
+        <translation>无法使用设置文件：%1。全部以默认值开始；旧文件保留为“%2”。</translation>
+    </message>
+    <message>
+        <source>The settings file &quot;%1&quot; could not be used: %2. Everything starts with its defaults, and nothing will be remembered.</source>
+        <translation>无法使用设置文件“%1”：%2。全部以默认值开始，并且不会记住任何内容。</translation>
+    </message>
 </context>
 <context>
     <name>corvane::StatisticsPanel</name>
@@ -1015,12 +1294,16 @@ Press Open again to start it.</source>
         <translation>，丢弃的数据报：%1</translation>
     </message>
     <message>
-        <source>Paused, new: %1; </source>
-        <translation>已暂停，新消息：%1;</translation>
-    </message>
-    <message>
         <source>Backlog: %1</source>
         <translation>积压：%1</translation>
+    </message>
+    <message>
+        <source>The views stand still. Everything is counted all the same.</source>
+        <translation>视图已静止。所有内容仍会计数。</translation>
+    </message>
+    <message>
+        <source>Paused for %1 s, new messages: %2</source>
+        <translation>已暂停 %1 秒，新消息：%2</translation>
     </message>
 </context>
 <context>
