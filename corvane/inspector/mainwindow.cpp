@@ -263,7 +263,7 @@ void MainWindow::createHelp()
     helpDock = addPanel(help, QStringLiteral("help"), tr("Help"), Qt::RightDockWidgetArea);
     tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("watch")), helpDock);
     helpDock->hide();
-    raisePanel(form);
+    raisePanel(form); // hiding has brought a neighbour to the front
     QMenu *menu = menuBar()->addMenu(tr("&Help"));
     QAction *contents
         = menu->addAction(makeIcon(QStringLiteral("help-contents")), tr("&Uses and Keys"));

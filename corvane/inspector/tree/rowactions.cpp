@@ -8,6 +8,7 @@
 #include "pathexpression.h"
 #include "singlevaluefieldtreewidgetitem.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenu>

@@ -2,11 +2,12 @@
 
 #include "rowplace.h"
 
-#include <QAction>
+#include <QList>
 #include <QObject>
 
 #include <vector>
 
+class QAction;
 class QMenu;
 
 namespace corvane {

@@ -37,6 +37,7 @@ class tst_mainwindow : public TestCase
 private Q_SLOTS:
     void withoutSource_saysHowToOpenOne();
     void firstMessage_isChosenAndShown();
+    void firstStart_hasTheFormInFront();
     void types_areListedWithTheirCounts();
     void choosingAType_showsItsLastMessageAtOnce();
     void form_followsTheStream();
@@ -78,6 +79,13 @@ void tst_mainwindow::firstMessage_isChosenAndShown()
     QVERIFY(shown.types()->currentIndex().isValid());
     QTRY_VERIFY(!shown.form().isEmpty());
     QVERIFY(!shown.form().constFirst().endsWith(QStringLiteral("N/A")));
+}
+
+void tst_mainwindow::firstStart_hasTheFormInFront()
+{
+    const ShownWindow shown;
+    QTRY_VERIFY(!shown.window->findChild<QDockWidget *>("form")->visibleRegion().isEmpty());
+    QVERIFY(shown.window->findChild<QDockWidget *>("bytes")->visibleRegion().isEmpty());
 }
 
 void tst_mainwindow::types_areListedWithTheirCounts()

@@ -6,6 +6,7 @@
 #include "testformat.h"
 #include "testsource.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void cleanup();
     void keys_copy_data();
     void keys_copy();
+    void copiedRow_isOneLineOfATable();
     void copiedMessage_isJson();
     void keys_sendPathsToWatchAndPlot_data();
     void keys_sendPathsToWatchAndPlot();
@@ -150,6 +152,15 @@ void tst_rowactions::keys_copy()
     shown.choose(row);
     shown.press(keys);
     QTEST(QApplication::clipboard()->text(), "text");
+}
+
+void tst_rowactions::copiedRow_isOneLineOfATable()
+{
+    const Shown shown;
+    shown.choose("label");
+    shown.at("label")->setText(2, "a\tb\nc");
+    shown.press("Ctrl+Shift+R");
+    QCOMPARE(QApplication::clipboard()->text(), "label\ttext\ta b c");
 }
 
 void tst_rowactions::copiedMessage_isJson()
