@@ -182,8 +182,8 @@ void writeMessages(QTextStream &out, Reception &reception)
         const QString interval = type->isCurrentlyRegular()
                                      ? MessageStatistics::getIntervalString(type->getLastInterval())
                                      : tr("not regular");
-        const QString crcErrors = hasChecksum ? QString::number(type->getData()->crcErrors)
-                                              : QStringLiteral("-");
+        const QString crcErrors
+            = hasChecksum ? QString::number(type->getData()->crcErrors) : QStringLiteral("-");
         out << QStringLiteral("%1   %2  %3  %4  %5")
                    .arg(type->getData()->received, 10)
                    .arg(crcErrors, 10)
