@@ -33,42 +33,62 @@
     </message>
 </context>
 <context>
-    <name>corvane</name>
+    <name>corvane::BytesPanel</name>
     <message>
-        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
-        <translation>Das Programm ist zuvor abgestürzt. Was es zuletzt getan hat, steht in „%1“.</translation>
+        <source>Bytes of the message</source>
+        <translation>Bytes der Nachricht</translation>
     </message>
     <message>
-        <source>Open &amp;Folder</source>
-        <translation>&amp;Ordner öffnen</translation>
+        <source>Arrow keys move, with Shift they select; Ctrl+C copies as hexadecimal; Enter or a double click goes to the field of a byte</source>
+        <translation>Pfeiltasten bewegen, mit Umschalt wählen sie aus; Strg+C kopiert hexadezimal; die Eingabetaste oder ein Doppelklick geht zum Feld eines Bytes</translation>
     </message>
     <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Löschen</translation>
+        <source>Choose a message or a field in the tree to see its bytes.</source>
+        <translation>Wählen Sie im Baum eine Nachricht oder ein Feld, um die Bytes zu sehen.</translation>
     </message>
     <message>
-        <source>Later</source>
-        <translation>Später</translation>
+        <source>%1: no message of this type has come yet.</source>
+        <translation>%1: Von diesem Typ ist noch keine Nachricht gekommen.</translation>
     </message>
     <message>
-        <source>it cannot be read (%1)</source>
-        <translation>sie kann nicht gelesen werden (%1)</translation>
+        <source>%1: this message did not come as bytes.</source>
+        <translation>%1: Diese Nachricht kam nicht als Bytes.</translation>
     </message>
     <message>
-        <source>it is too large</source>
-        <translation>sie ist zu groß</translation>
+        <source>%1: %2 bytes.</source>
+        <translation>%1: %2 Byte.</translation>
     </message>
     <message>
-        <source>it is no text</source>
-        <translation>sie ist kein Text</translation>
+        <source>Masked (··): all that may be confidential.</source>
+        <translation>Verdeckt (··): alles, was vertraulich sein kann.</translation>
     </message>
     <message>
-        <source>it is no settings file</source>
-        <translation>sie ist keine Einstellungsdatei</translation>
+        <source>%1: offset %2, length %3.</source>
+        <translation>%1: Position %2, Länge %3.</translation>
     </message>
     <message>
-        <source>it holds what this program does not write</source>
-        <translation>sie enthält, was dieses Programm nicht schreibt</translation>
+        <source>%1 is computed and has no bytes of its own.</source>
+        <translation>%1 wird berechnet und hat keine eigenen Bytes.</translation>
+    </message>
+    <message>
+        <source>Where fields lie in the bytes is not known in this format.</source>
+        <translation>In diesem Format ist nicht bekannt, wo in den Bytes die Felder liegen.</translation>
+    </message>
+    <message>
+        <source>%1 has no bytes in this message.</source>
+        <translation>%1 hat in dieser Nachricht keine Bytes.</translation>
+    </message>
+    <message>
+        <source>Offset %1 (0x%2)</source>
+        <translation>Position %1 (0x%2)</translation>
+    </message>
+    <message>
+        <source>, %1 bytes</source>
+        <translation>, %1 Byte</translation>
+    </message>
+    <message>
+        <source>, in %1</source>
+        <translation>, in %1</translation>
     </message>
 </context>
 <context>
@@ -92,6 +112,25 @@
     <message>
         <source>Keep Them Hidden</source>
         <translation>Verborgen lassen</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::CrashTrace</name>
+    <message>
+        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
+        <translation>Das Programm ist zuvor abgestürzt. Was es zuletzt getan hat, steht in „%1“.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>&amp;Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
     </message>
 </context>
 <context>
@@ -345,6 +384,73 @@
     <message>
         <source>Remove from: %1</source>
         <translation>Entfernen aus: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::FindBar</name>
+    <message>
+        <source>Find a name, a value or a path</source>
+        <translation>Namen, Wert oder Pfad suchen</translation>
+    </message>
+    <message>
+        <source>Find in the tree</source>
+        <translation>Im Baum suchen</translation>
+    </message>
+    <message>
+        <source>Looks in names, values and, with a dot or a bracket, in paths (&quot;position.lat&quot;, &quot;volt[2]&quot;); Escape closes</source>
+        <translation>Sucht in Namen, Werten und, mit Punkt oder Klammer, in Pfaden („position.lat“, „volt[2]“); Esc schließt</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Vorheriger</translation>
+    </message>
+    <message>
+        <source>Go to the previous one (Shift+F3, Shift+Enter)</source>
+        <translation>Zum vorherigen Treffer (Umschalt+F3, Umschalt+Eingabe)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächster</translation>
+    </message>
+    <message>
+        <source>Go to the next one (F3, Enter)</source>
+        <translation>Zum nächsten Treffer (F3, Eingabe)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close and collapse what was expanded (Escape)</source>
+        <translation>Schließen und zuklappen, was aufgeklappt wurde (Esc)</translation>
+    </message>
+    <message>
+        <source>from the end again</source>
+        <translation>wieder vom Ende an</translation>
+    </message>
+    <message>
+        <source>from the top again</source>
+        <translation>wieder von oben</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Suche läuft …</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source> so far</source>
+        <translation> bisher</translation>
     </message>
 </context>
 <context>
@@ -1137,6 +1243,200 @@ Drücken Sie noch einmal auf „Öffnen“, um es zu starten.</translation>
     </message>
 </context>
 <context>
+    <name>corvane::RowActions</name>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>&amp;Wert kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the value as it is shown</source>
+        <translation>Den Wert kopieren, wie er gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the path by which the watch list, the plot and exports know the row</source>
+        <translation>Den Pfad kopieren, unter dem Beobachtung, Diagramm und Export die Zeile kennen</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Row</source>
+        <translation>&amp;Zeile kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the texts of all columns, with tabs between</source>
+        <translation>Die Texte aller Spalten kopieren, durch Tabulatoren getrennt</translation>
+    </message>
+    <message>
+        <source>Copy Message as &amp;JSON</source>
+        <translation>Nachricht als &amp;JSON kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the whole message that is shown, as in an export</source>
+        <translation>Die ganze gezeigte Nachricht kopieren, wie in einem Export</translation>
+    </message>
+    <message>
+        <source>Add to &amp;Watch</source>
+        <translation>&amp;Beobachten</translation>
+    </message>
+    <message>
+        <source>Show the field in the list of watched fields</source>
+        <translation>Das Feld in der Liste der beobachteten Felder zeigen</translation>
+    </message>
+    <message>
+        <source>P&amp;lot</source>
+        <translation>Im &amp;Diagramm zeichnen</translation>
+    </message>
+    <message>
+        <source>Draw the field over time</source>
+        <translation>Das Feld über die Zeit zeichnen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Form</source>
+        <translation>&amp;Formular zeigen</translation>
+    </message>
+    <message>
+        <source>Show the message type as a form</source>
+        <translation>Den Nachrichtentyp als Formular zeigen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Bytes</source>
+        <translation>B&amp;ytes zeigen</translation>
+    </message>
+    <message>
+        <source>Show the bytes of the message, with those of the field marked</source>
+        <translation>Die Bytes der Nachricht zeigen, die des Feldes markiert</translation>
+    </message>
+    <message>
+        <source>Filter by &amp;This Value</source>
+        <translation>&amp;Nach diesem Wert filtern</translation>
+    </message>
+    <message>
+        <source>Show only elements of lists that hold this value</source>
+        <translation>Nur Listenelemente zeigen, die diesen Wert enthalten</translation>
+    </message>
+    <message>
+        <source>E&amp;xpand Below</source>
+        <translation>Darunter auf&amp;klappen</translation>
+    </message>
+    <message>
+        <source>Expand the row and all below</source>
+        <translation>Die Zeile und alles darunter aufklappen</translation>
+    </message>
+    <message>
+        <source>C&amp;ollapse Below</source>
+        <translation>Darunter z&amp;uklappen</translation>
+    </message>
+    <message>
+        <source>Collapse the row and all below</source>
+        <translation>Die Zeile und alles darunter zuklappen</translation>
+    </message>
+    <message>
+        <source>No row is chosen</source>
+        <translation>Keine Zeile ist gewählt</translation>
+    </message>
+    <message>
+        <source>This row stands for no field</source>
+        <translation>Diese Zeile steht für kein Feld</translation>
+    </message>
+    <message>
+        <source>This row has no value of its own</source>
+        <translation>Diese Zeile hat keinen eigenen Wert</translation>
+    </message>
+    <message>
+        <source>No message of this type has come yet</source>
+        <translation>Von diesem Typ ist noch keine Nachricht gekommen</translation>
+    </message>
+    <message>
+        <source>A message type cannot be watched; choose a field</source>
+        <translation>Ein Nachrichtentyp kann nicht beobachtet werden; wählen Sie ein Feld</translation>
+    </message>
+    <message>
+        <source>Fields inside sub-messages cannot be watched</source>
+        <translation>Felder innerhalb von Teilnachrichten können nicht beobachtet werden</translation>
+    </message>
+    <message>
+        <source>This build has no plot</source>
+        <translation>Diese Fassung hat kein Diagramm</translation>
+    </message>
+    <message>
+        <source>A message type cannot be plotted; choose a numeric field</source>
+        <translation>Ein Nachrichtentyp kann nicht gezeichnet werden; wählen Sie ein Zahlenfeld</translation>
+    </message>
+    <message>
+        <source>Only numeric fields can be plotted; this one is of type %1</source>
+        <translation>Nur Zahlenfelder können gezeichnet werden; dieses ist vom Typ %1</translation>
+    </message>
+    <message>
+        <source>What this field holds is confidential</source>
+        <translation>Was dieses Feld enthält, ist vertraulich</translation>
+    </message>
+    <message>
+        <source>Only values inside the elements of a list of sub-messages can be filtered by</source>
+        <translation>Gefiltert werden kann nur nach Werten innerhalb der Elemente einer Liste von Teilnachrichten</translation>
+    </message>
+    <message>
+        <source>There is no value</source>
+        <translation>Es gibt keinen Wert</translation>
+    </message>
+    <message>
+        <source>There is nothing below this row</source>
+        <translation>Unter dieser Zeile gibt es nichts</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::RowDescription</name>
+    <message>
+        <source>list of %1</source>
+        <translation>Liste von %1</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>Empty in the newest message.</source>
+        <translation>In der neuesten Nachricht leer.</translation>
+    </message>
+    <message>
+        <source>Absent: what it is computed from is not in the newest message.</source>
+        <translation>Nicht vorhanden: Woraus es berechnet wird, ist nicht in der neuesten Nachricht.</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message has another case of &quot;%1&quot;, or none.</source>
+        <translation>Nicht vorhanden: Die neueste Nachricht hat einen anderen Fall von „%1“ oder keinen.</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message came without this field.</source>
+        <translation>Nicht vorhanden: Die neueste Nachricht kam ohne dieses Feld.</translation>
+    </message>
+    <message>
+        <source>Cut: only the beginning of %1 bytes is shown.</source>
+        <translation>Gekürzt: Nur der Anfang von %1 Byte wird gezeigt.</translation>
+    </message>
+    <message>
+        <source>Cut: only the beginning of %1 characters is shown.</source>
+        <translation>Gekürzt: Nur der Anfang von %1 Zeichen wird gezeigt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 elements do not pass the filter.</source>
+        <translation>%1 von %2 Elementen entsprechen dem Filter nicht.</translation>
+    </message>
+    <message>
+        <source>No message of this type has come yet.</source>
+        <translation>Von diesem Typ ist noch keine Nachricht gekommen.</translation>
+    </message>
+    <message>
+        <source>Hidden: what it holds is confidential.</source>
+        <translation>Verborgen: Der Inhalt ist vertraulich.</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message came without the sub-message around it.</source>
+        <translation>Nicht vorhanden: Die neueste Nachricht kam ohne die umgebende Teilnachricht.</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SenderChooser</name>
     <message>
         <source>Sender whose messages are shown</source>
@@ -1250,6 +1550,22 @@ Drücken Sie noch einmal auf „Öffnen“, um es zu starten.</translation>
     <message>
         <source>The settings file &quot;%1&quot; could not be used: %2. Everything starts with its defaults, and nothing will be remembered.</source>
         <translation>Die Einstellungsdatei „%1“ konnte nicht verwendet werden: %2. Alles beginnt mit den Voreinstellungen, und nichts wird gemerkt.</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>sie kann nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>sie ist kein Text</translation>
+    </message>
+    <message>
+        <source>it holds what this program does not write</source>
+        <translation>sie enthält, was dieses Programm nicht schreibt</translation>
     </message>
 </context>
 <context>
