@@ -33,42 +33,62 @@
     </message>
 </context>
 <context>
-    <name>corvane</name>
+    <name>corvane::BytesPanel</name>
     <message>
-        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
-        <translation>Le programme s’est arrêté brutalement. Ce qu’il a fait en dernier est écrit dans «&#xa0;%1&#xa0;».</translation>
+        <source>Bytes of the message</source>
+        <translation>Octets du message</translation>
     </message>
     <message>
-        <source>Open &amp;Folder</source>
-        <translation>Ouvrir le &amp;dossier</translation>
+        <source>Arrow keys move, with Shift they select; Ctrl+C copies as hexadecimal; Enter or a double click goes to the field of a byte</source>
+        <translation>Les flèches déplacent, avec Maj elles sélectionnent&#xa0;; Ctrl+C copie en hexadécimal&#xa0;; Entrée ou un double clic va au champ d’un octet</translation>
     </message>
     <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Supprimer</translation>
+        <source>Choose a message or a field in the tree to see its bytes.</source>
+        <translation>Choisissez dans l’arbre un message ou un champ pour en voir les octets.</translation>
     </message>
     <message>
-        <source>Later</source>
-        <translation>Plus tard</translation>
+        <source>%1: no message of this type has come yet.</source>
+        <translation>%1&#xa0;: aucun message de ce type n’est encore arrivé.</translation>
     </message>
     <message>
-        <source>it cannot be read (%1)</source>
-        <translation>il ne peut pas être lu (%1)</translation>
+        <source>%1: this message did not come as bytes.</source>
+        <translation>%1&#xa0;: ce message n’est pas arrivé sous forme d’octets.</translation>
     </message>
     <message>
-        <source>it is too large</source>
-        <translation>il est trop grand</translation>
+        <source>%1: %2 bytes.</source>
+        <translation>%1&#xa0;: %2 octets.</translation>
     </message>
     <message>
-        <source>it is no text</source>
-        <translation>ce n’est pas du texte</translation>
+        <source>Masked (··): all that may be confidential.</source>
+        <translation>Masqué (··)&#xa0;: tout ce qui peut être confidentiel.</translation>
     </message>
     <message>
-        <source>it is no settings file</source>
-        <translation>ce n’est pas un fichier de réglages</translation>
+        <source>%1: offset %2, length %3.</source>
+        <translation>%1&#xa0;: position %2, longueur %3.</translation>
     </message>
     <message>
-        <source>it holds what this program does not write</source>
-        <translation>il contient ce que ce programme n’écrit pas</translation>
+        <source>%1 is computed and has no bytes of its own.</source>
+        <translation>%1 est calculé et n’a pas d’octets à lui.</translation>
+    </message>
+    <message>
+        <source>Where fields lie in the bytes is not known in this format.</source>
+        <translation>Dans ce format, on ne sait pas où se trouvent les champs dans les octets.</translation>
+    </message>
+    <message>
+        <source>%1 has no bytes in this message.</source>
+        <translation>%1 n’a pas d’octets dans ce message.</translation>
+    </message>
+    <message>
+        <source>Offset %1 (0x%2)</source>
+        <translation>Position %1 (0x%2)</translation>
+    </message>
+    <message>
+        <source>, %1 bytes</source>
+        <translation>, %1 octets</translation>
+    </message>
+    <message>
+        <source>, in %1</source>
+        <translation>, dans %1</translation>
     </message>
 </context>
 <context>
@@ -92,6 +112,25 @@
     <message>
         <source>Keep Them Hidden</source>
         <translation>Les garder masqués</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::CrashTrace</name>
+    <message>
+        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
+        <translation>Le programme s’est arrêté brutalement. Ce qu’il a fait en dernier est écrit dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>Ouvrir le &amp;dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
     </message>
 </context>
 <context>
@@ -345,6 +384,73 @@
     <message>
         <source>Remove from: %1</source>
         <translation>Retirer de&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::FindBar</name>
+    <message>
+        <source>Find a name, a value or a path</source>
+        <translation>Chercher un nom, une valeur ou un chemin</translation>
+    </message>
+    <message>
+        <source>Find in the tree</source>
+        <translation>Chercher dans l’arbre</translation>
+    </message>
+    <message>
+        <source>Looks in names, values and, with a dot or a bracket, in paths (&quot;position.lat&quot;, &quot;volt[2]&quot;); Escape closes</source>
+        <translation>Cherche dans les noms, les valeurs et, avec un point ou un crochet, dans les chemins («&#xa0;position.lat&#xa0;», «&#xa0;volt[2]&#xa0;»)&#xa0;; Échap ferme</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Go to the previous one (Shift+F3, Shift+Enter)</source>
+        <translation>Aller au précédent (Maj+F3, Maj+Entrée)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Go to the next one (F3, Enter)</source>
+        <translation>Aller au suivant (F3, Entrée)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Close and collapse what was expanded (Escape)</source>
+        <translation>Fermer et replier ce qui a été déplié (Échap)</translation>
+    </message>
+    <message>
+        <source>from the end again</source>
+        <translation>de nouveau depuis la fin</translation>
+    </message>
+    <message>
+        <source>from the top again</source>
+        <translation>de nouveau depuis le début</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Recherche…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Rien trouvé</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>Trouvés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source> so far</source>
+        <translation> jusqu’ici</translation>
     </message>
 </context>
 <context>
@@ -1137,6 +1243,200 @@ Appuyez encore sur Ouvrir pour le démarrer.</translation>
     </message>
 </context>
 <context>
+    <name>corvane::RowActions</name>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>&amp;Copier la valeur</translation>
+    </message>
+    <message>
+        <source>Copy the value as it is shown</source>
+        <translation>Copier la valeur comme elle est montrée</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>Copier le c&amp;hemin</translation>
+    </message>
+    <message>
+        <source>Copy the path by which the watch list, the plot and exports know the row</source>
+        <translation>Copier le chemin sous lequel la surveillance, la courbe et l’exportation connaissent la ligne</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Row</source>
+        <translation>Copier la &amp;ligne</translation>
+    </message>
+    <message>
+        <source>Copy the texts of all columns, with tabs between</source>
+        <translation>Copier les textes de toutes les colonnes, séparés par des tabulations</translation>
+    </message>
+    <message>
+        <source>Copy Message as &amp;JSON</source>
+        <translation>Copier le message en &amp;JSON</translation>
+    </message>
+    <message>
+        <source>Copy the whole message that is shown, as in an export</source>
+        <translation>Copier tout le message montré, comme dans une exportation</translation>
+    </message>
+    <message>
+        <source>Add to &amp;Watch</source>
+        <translation>&amp;Surveiller</translation>
+    </message>
+    <message>
+        <source>Show the field in the list of watched fields</source>
+        <translation>Montrer le champ dans la liste des champs surveillés</translation>
+    </message>
+    <message>
+        <source>P&amp;lot</source>
+        <translation>&amp;Tracer</translation>
+    </message>
+    <message>
+        <source>Draw the field over time</source>
+        <translation>Tracer le champ au fil du temps</translation>
+    </message>
+    <message>
+        <source>Show &amp;Form</source>
+        <translation>Afficher le &amp;formulaire</translation>
+    </message>
+    <message>
+        <source>Show the message type as a form</source>
+        <translation>Montrer le type de message sous forme de formulaire</translation>
+    </message>
+    <message>
+        <source>Show &amp;Bytes</source>
+        <translation>Afficher les &amp;octets</translation>
+    </message>
+    <message>
+        <source>Show the bytes of the message, with those of the field marked</source>
+        <translation>Montrer les octets du message, ceux du champ étant marqués</translation>
+    </message>
+    <message>
+        <source>Filter by &amp;This Value</source>
+        <translation>Filtrer par cette &amp;valeur</translation>
+    </message>
+    <message>
+        <source>Show only elements of lists that hold this value</source>
+        <translation>Ne montrer que les éléments de listes qui contiennent cette valeur</translation>
+    </message>
+    <message>
+        <source>E&amp;xpand Below</source>
+        <translation>&amp;Déplier en dessous</translation>
+    </message>
+    <message>
+        <source>Expand the row and all below</source>
+        <translation>Déplier la ligne et tout ce qui est en dessous</translation>
+    </message>
+    <message>
+        <source>C&amp;ollapse Below</source>
+        <translation>&amp;Replier en dessous</translation>
+    </message>
+    <message>
+        <source>Collapse the row and all below</source>
+        <translation>Replier la ligne et tout ce qui est en dessous</translation>
+    </message>
+    <message>
+        <source>No row is chosen</source>
+        <translation>Aucune ligne n’est choisie</translation>
+    </message>
+    <message>
+        <source>This row stands for no field</source>
+        <translation>Cette ligne ne représente aucun champ</translation>
+    </message>
+    <message>
+        <source>This row has no value of its own</source>
+        <translation>Cette ligne n’a pas de valeur à elle</translation>
+    </message>
+    <message>
+        <source>No message of this type has come yet</source>
+        <translation>Aucun message de ce type n’est encore arrivé</translation>
+    </message>
+    <message>
+        <source>A message type cannot be watched; choose a field</source>
+        <translation>Un type de message ne peut pas être surveillé&#xa0;; choisissez un champ</translation>
+    </message>
+    <message>
+        <source>Fields inside sub-messages cannot be watched</source>
+        <translation>Les champs à l’intérieur de sous-messages ne peuvent pas être surveillés</translation>
+    </message>
+    <message>
+        <source>This build has no plot</source>
+        <translation>Cette version n’a pas de courbe</translation>
+    </message>
+    <message>
+        <source>A message type cannot be plotted; choose a numeric field</source>
+        <translation>Un type de message ne peut pas être tracé&#xa0;; choisissez un champ numérique</translation>
+    </message>
+    <message>
+        <source>Only numeric fields can be plotted; this one is of type %1</source>
+        <translation>Seuls les champs numériques peuvent être tracés&#xa0;; celui-ci est de type %1</translation>
+    </message>
+    <message>
+        <source>What this field holds is confidential</source>
+        <translation>Ce que contient ce champ est confidentiel</translation>
+    </message>
+    <message>
+        <source>Only values inside the elements of a list of sub-messages can be filtered by</source>
+        <translation>On ne peut filtrer que par des valeurs à l’intérieur des éléments d’une liste de sous-messages</translation>
+    </message>
+    <message>
+        <source>There is no value</source>
+        <translation>Il n’y a pas de valeur</translation>
+    </message>
+    <message>
+        <source>There is nothing below this row</source>
+        <translation>Il n’y a rien sous cette ligne</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::RowDescription</name>
+    <message>
+        <source>list of %1</source>
+        <translation>liste de %1</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>Empty in the newest message.</source>
+        <translation>Vide dans le message le plus récent.</translation>
+    </message>
+    <message>
+        <source>Absent: what it is computed from is not in the newest message.</source>
+        <translation>Absent&#xa0;: ce à partir de quoi il est calculé n’est pas dans le message le plus récent.</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message has another case of &quot;%1&quot;, or none.</source>
+        <translation>Absent&#xa0;: le message le plus récent a un autre cas de «&#xa0;%1&#xa0;», ou aucun.</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message came without this field.</source>
+        <translation>Absent&#xa0;: le message le plus récent est arrivé sans ce champ.</translation>
+    </message>
+    <message>
+        <source>Cut: only the beginning of %1 bytes is shown.</source>
+        <translation>Tronqué&#xa0;: seul le début de %1 octets est montré.</translation>
+    </message>
+    <message>
+        <source>Cut: only the beginning of %1 characters is shown.</source>
+        <translation>Tronqué&#xa0;: seul le début de %1 caractères est montré.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 elements do not pass the filter.</source>
+        <translation>%1 éléments sur %2 ne passent pas le filtre.</translation>
+    </message>
+    <message>
+        <source>No message of this type has come yet.</source>
+        <translation>Aucun message de ce type n’est encore arrivé.</translation>
+    </message>
+    <message>
+        <source>Hidden: what it holds is confidential.</source>
+        <translation>Masqué&#xa0;: son contenu est confidentiel.</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message came without the sub-message around it.</source>
+        <translation>Absent&#xa0;: le message le plus récent est arrivé sans le sous-message qui le contient.</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SenderChooser</name>
     <message>
         <source>Sender whose messages are shown</source>
@@ -1250,6 +1550,22 @@ Appuyez encore sur Ouvrir pour le démarrer.</translation>
     <message>
         <source>The settings file &quot;%1&quot; could not be used: %2. Everything starts with its defaults, and nothing will be remembered.</source>
         <translation>Le fichier de réglages «&#xa0;%1&#xa0;» n’a pas pu être utilisé&#xa0;: %2. Tout commence avec les valeurs par défaut, et rien ne sera retenu.</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>il ne peut pas être lu (%1)</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop grand</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>ce n’est pas du texte</translation>
+    </message>
+    <message>
+        <source>it holds what this program does not write</source>
+        <translation>il contient ce que ce programme n’écrit pas</translation>
     </message>
 </context>
 <context>
