@@ -33,42 +33,62 @@
     </message>
 </context>
 <context>
-    <name>corvane</name>
+    <name>corvane::BytesPanel</name>
     <message>
-        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
-        <translation>El programa se cerró antes de forma inesperada. Lo último que hizo está escrito en «%1».</translation>
+        <source>Bytes of the message</source>
+        <translation>Bytes del mensaje</translation>
     </message>
     <message>
-        <source>Open &amp;Folder</source>
-        <translation>Abrir la &amp;carpeta</translation>
+        <source>Arrow keys move, with Shift they select; Ctrl+C copies as hexadecimal; Enter or a double click goes to the field of a byte</source>
+        <translation>Las flechas mueven, con Mayús seleccionan; Ctrl+C copia en hexadecimal; Intro o un doble clic va al campo de un byte</translation>
     </message>
     <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Eliminar</translation>
+        <source>Choose a message or a field in the tree to see its bytes.</source>
+        <translation>Elija en el árbol un mensaje o un campo para ver sus bytes.</translation>
     </message>
     <message>
-        <source>Later</source>
-        <translation>Más tarde</translation>
+        <source>%1: no message of this type has come yet.</source>
+        <translation>%1: aún no ha llegado ningún mensaje de este tipo.</translation>
     </message>
     <message>
-        <source>it cannot be read (%1)</source>
-        <translation>no se puede leer (%1)</translation>
+        <source>%1: this message did not come as bytes.</source>
+        <translation>%1: este mensaje no llegó en forma de bytes.</translation>
     </message>
     <message>
-        <source>it is too large</source>
-        <translation>es demasiado grande</translation>
+        <source>%1: %2 bytes.</source>
+        <translation>%1: %2 bytes.</translation>
     </message>
     <message>
-        <source>it is no text</source>
-        <translation>no es texto</translation>
+        <source>Masked (··): all that may be confidential.</source>
+        <translation>Oculto (··): todo lo que puede ser confidencial.</translation>
     </message>
     <message>
-        <source>it is no settings file</source>
-        <translation>no es un archivo de ajustes</translation>
+        <source>%1: offset %2, length %3.</source>
+        <translation>%1: posición %2, longitud %3.</translation>
     </message>
     <message>
-        <source>it holds what this program does not write</source>
-        <translation>contiene lo que este programa no escribe</translation>
+        <source>%1 is computed and has no bytes of its own.</source>
+        <translation>%1 se calcula y no tiene bytes propios.</translation>
+    </message>
+    <message>
+        <source>Where fields lie in the bytes is not known in this format.</source>
+        <translation>En este formato no se sabe en qué bytes están los campos.</translation>
+    </message>
+    <message>
+        <source>%1 has no bytes in this message.</source>
+        <translation>%1 no tiene bytes en este mensaje.</translation>
+    </message>
+    <message>
+        <source>Offset %1 (0x%2)</source>
+        <translation>Posición %1 (0x%2)</translation>
+    </message>
+    <message>
+        <source>, %1 bytes</source>
+        <translation>, %1 bytes</translation>
+    </message>
+    <message>
+        <source>, in %1</source>
+        <translation>, en %1</translation>
     </message>
 </context>
 <context>
@@ -92,6 +112,25 @@
     <message>
         <source>Keep Them Hidden</source>
         <translation>Mantenerlos ocultos</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::CrashTrace</name>
+    <message>
+        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
+        <translation>El programa se cerró antes de forma inesperada. Lo último que hizo está escrito en «%1».</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>Abrir la &amp;carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
     </message>
 </context>
 <context>
@@ -345,6 +384,73 @@
     <message>
         <source>Remove from: %1</source>
         <translation>Quitar de: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::FindBar</name>
+    <message>
+        <source>Find a name, a value or a path</source>
+        <translation>Buscar un nombre, un valor o una ruta</translation>
+    </message>
+    <message>
+        <source>Find in the tree</source>
+        <translation>Buscar en el árbol</translation>
+    </message>
+    <message>
+        <source>Looks in names, values and, with a dot or a bracket, in paths (&quot;position.lat&quot;, &quot;volt[2]&quot;); Escape closes</source>
+        <translation>Busca en nombres, valores y, con un punto o un corchete, en rutas («position.lat», «volt[2]»); Esc cierra</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Go to the previous one (Shift+F3, Shift+Enter)</source>
+        <translation>Ir al anterior (Mayús+F3, Mayús+Intro)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>Go to the next one (F3, Enter)</source>
+        <translation>Ir al siguiente (F3, Intro)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Close and collapse what was expanded (Escape)</source>
+        <translation>Cerrar y plegar lo que se desplegó (Esc)</translation>
+    </message>
+    <message>
+        <source>from the end again</source>
+        <translation>de nuevo desde el final</translation>
+    </message>
+    <message>
+        <source>from the top again</source>
+        <translation>de nuevo desde el principio</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Buscando…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nada encontrado</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>Encontrados: %1</translation>
+    </message>
+    <message>
+        <source> so far</source>
+        <translation> hasta ahora</translation>
     </message>
 </context>
 <context>
@@ -1137,6 +1243,200 @@ Pulse Abrir otra vez para iniciarlo.</translation>
     </message>
 </context>
 <context>
+    <name>corvane::RowActions</name>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>&amp;Copiar valor</translation>
+    </message>
+    <message>
+        <source>Copy the value as it is shown</source>
+        <translation>Copiar el valor tal como se muestra</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>Copiar &amp;ruta</translation>
+    </message>
+    <message>
+        <source>Copy the path by which the watch list, the plot and exports know the row</source>
+        <translation>Copiar la ruta con la que la lista de vigilancia, la gráfica y la exportación conocen la fila</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Row</source>
+        <translation>Copiar &amp;fila</translation>
+    </message>
+    <message>
+        <source>Copy the texts of all columns, with tabs between</source>
+        <translation>Copiar los textos de todas las columnas, separados por tabuladores</translation>
+    </message>
+    <message>
+        <source>Copy Message as &amp;JSON</source>
+        <translation>Copiar mensaje como &amp;JSON</translation>
+    </message>
+    <message>
+        <source>Copy the whole message that is shown, as in an export</source>
+        <translation>Copiar todo el mensaje que se muestra, como en una exportación</translation>
+    </message>
+    <message>
+        <source>Add to &amp;Watch</source>
+        <translation>&amp;Vigilar</translation>
+    </message>
+    <message>
+        <source>Show the field in the list of watched fields</source>
+        <translation>Mostrar el campo en la lista de campos vigilados</translation>
+    </message>
+    <message>
+        <source>P&amp;lot</source>
+        <translation>&amp;Trazar</translation>
+    </message>
+    <message>
+        <source>Draw the field over time</source>
+        <translation>Trazar el campo a lo largo del tiempo</translation>
+    </message>
+    <message>
+        <source>Show &amp;Form</source>
+        <translation>Mostrar f&amp;ormulario</translation>
+    </message>
+    <message>
+        <source>Show the message type as a form</source>
+        <translation>Mostrar el tipo de mensaje como formulario</translation>
+    </message>
+    <message>
+        <source>Show &amp;Bytes</source>
+        <translation>Mostrar &amp;bytes</translation>
+    </message>
+    <message>
+        <source>Show the bytes of the message, with those of the field marked</source>
+        <translation>Mostrar los bytes del mensaje, con los del campo marcados</translation>
+    </message>
+    <message>
+        <source>Filter by &amp;This Value</source>
+        <translation>Fi&amp;ltrar por este valor</translation>
+    </message>
+    <message>
+        <source>Show only elements of lists that hold this value</source>
+        <translation>Mostrar solo los elementos de listas que contienen este valor</translation>
+    </message>
+    <message>
+        <source>E&amp;xpand Below</source>
+        <translation>&amp;Desplegar debajo</translation>
+    </message>
+    <message>
+        <source>Expand the row and all below</source>
+        <translation>Desplegar la fila y todo lo que hay debajo</translation>
+    </message>
+    <message>
+        <source>C&amp;ollapse Below</source>
+        <translation>&amp;Plegar debajo</translation>
+    </message>
+    <message>
+        <source>Collapse the row and all below</source>
+        <translation>Plegar la fila y todo lo que hay debajo</translation>
+    </message>
+    <message>
+        <source>No row is chosen</source>
+        <translation>No hay ninguna fila elegida</translation>
+    </message>
+    <message>
+        <source>This row stands for no field</source>
+        <translation>Esta fila no representa ningún campo</translation>
+    </message>
+    <message>
+        <source>This row has no value of its own</source>
+        <translation>Esta fila no tiene valor propio</translation>
+    </message>
+    <message>
+        <source>No message of this type has come yet</source>
+        <translation>Aún no ha llegado ningún mensaje de este tipo</translation>
+    </message>
+    <message>
+        <source>A message type cannot be watched; choose a field</source>
+        <translation>Un tipo de mensaje no se puede vigilar; elija un campo</translation>
+    </message>
+    <message>
+        <source>Fields inside sub-messages cannot be watched</source>
+        <translation>Los campos dentro de submensajes no se pueden vigilar</translation>
+    </message>
+    <message>
+        <source>This build has no plot</source>
+        <translation>Esta versión no tiene gráfica</translation>
+    </message>
+    <message>
+        <source>A message type cannot be plotted; choose a numeric field</source>
+        <translation>Un tipo de mensaje no se puede trazar; elija un campo numérico</translation>
+    </message>
+    <message>
+        <source>Only numeric fields can be plotted; this one is of type %1</source>
+        <translation>Solo se pueden trazar campos numéricos; este es de tipo %1</translation>
+    </message>
+    <message>
+        <source>What this field holds is confidential</source>
+        <translation>Lo que contiene este campo es confidencial</translation>
+    </message>
+    <message>
+        <source>Only values inside the elements of a list of sub-messages can be filtered by</source>
+        <translation>Solo se puede filtrar por valores que estén dentro de los elementos de una lista de submensajes</translation>
+    </message>
+    <message>
+        <source>There is no value</source>
+        <translation>No hay valor</translation>
+    </message>
+    <message>
+        <source>There is nothing below this row</source>
+        <translation>No hay nada debajo de esta fila</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::RowDescription</name>
+    <message>
+        <source>list of %1</source>
+        <translation>lista de %1</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>Empty in the newest message.</source>
+        <translation>Vacío en el mensaje más reciente.</translation>
+    </message>
+    <message>
+        <source>Absent: what it is computed from is not in the newest message.</source>
+        <translation>Ausente: aquello a partir de lo cual se calcula no está en el mensaje más reciente.</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message has another case of &quot;%1&quot;, or none.</source>
+        <translation>Ausente: el mensaje más reciente tiene otro caso de «%1», o ninguno.</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message came without this field.</source>
+        <translation>Ausente: el mensaje más reciente llegó sin este campo.</translation>
+    </message>
+    <message>
+        <source>Cut: only the beginning of %1 bytes is shown.</source>
+        <translation>Recortado: solo se muestra el comienzo de %1 bytes.</translation>
+    </message>
+    <message>
+        <source>Cut: only the beginning of %1 characters is shown.</source>
+        <translation>Recortado: solo se muestra el comienzo de %1 caracteres.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 elements do not pass the filter.</source>
+        <translation>%1 de %2 elementos no pasan el filtro.</translation>
+    </message>
+    <message>
+        <source>No message of this type has come yet.</source>
+        <translation>Aún no ha llegado ningún mensaje de este tipo.</translation>
+    </message>
+    <message>
+        <source>Hidden: what it holds is confidential.</source>
+        <translation>Oculto: su contenido es confidencial.</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message came without the sub-message around it.</source>
+        <translation>Ausente: el mensaje más reciente llegó sin el submensaje que lo contiene.</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SenderChooser</name>
     <message>
         <source>Sender whose messages are shown</source>
@@ -1250,6 +1550,22 @@ Pulse Abrir otra vez para iniciarlo.</translation>
     <message>
         <source>The settings file &quot;%1&quot; could not be used: %2. Everything starts with its defaults, and nothing will be remembered.</source>
         <translation>El archivo de ajustes «%1» no se pudo usar: %2. Todo empieza con los valores predeterminados y no se recordará nada.</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>no se puede leer (%1)</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es demasiado grande</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>no es texto</translation>
+    </message>
+    <message>
+        <source>it holds what this program does not write</source>
+        <translation>contiene lo que este programa no escribe</translation>
     </message>
 </context>
 <context>
