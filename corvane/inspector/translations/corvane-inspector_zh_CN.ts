@@ -33,42 +33,62 @@
     </message>
 </context>
 <context>
-    <name>corvane</name>
+    <name>corvane::BytesPanel</name>
     <message>
-        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
-        <translation>程序之前崩溃过。它最后的操作写在“%1”中。</translation>
+        <source>Bytes of the message</source>
+        <translation>消息的字节</translation>
     </message>
     <message>
-        <source>Open &amp;Folder</source>
-        <translation>打开文件夹(&amp;F)</translation>
+        <source>Arrow keys move, with Shift they select; Ctrl+C copies as hexadecimal; Enter or a double click goes to the field of a byte</source>
+        <translation>方向键移动，按住 Shift 可选择；Ctrl+C 以十六进制复制；按 Enter 或双击可转到字节所属的字段</translation>
     </message>
     <message>
-        <source>&amp;Delete</source>
-        <translation>删除(&amp;D)</translation>
+        <source>Choose a message or a field in the tree to see its bytes.</source>
+        <translation>在树中选择消息或字段以查看其字节。</translation>
     </message>
     <message>
-        <source>Later</source>
-        <translation>以后</translation>
+        <source>%1: no message of this type has come yet.</source>
+        <translation>%1：尚未收到此类型的消息。</translation>
     </message>
     <message>
-        <source>it cannot be read (%1)</source>
-        <translation>无法读取（%1)</translation>
+        <source>%1: this message did not come as bytes.</source>
+        <translation>%1：此消息不是以字节形式收到的。</translation>
     </message>
     <message>
-        <source>it is too large</source>
-        <translation>太大</translation>
+        <source>%1: %2 bytes.</source>
+        <translation>%1：%2 字节。</translation>
     </message>
     <message>
-        <source>it is no text</source>
-        <translation>不是文本</translation>
+        <source>Masked (··): all that may be confidential.</source>
+        <translation>已遮盖 (··)：所有可能机密的内容。</translation>
     </message>
     <message>
-        <source>it is no settings file</source>
-        <translation>不是设置文件</translation>
+        <source>%1: offset %2, length %3.</source>
+        <translation>%1：位置 %2，长度 %3。</translation>
     </message>
     <message>
-        <source>it holds what this program does not write</source>
-        <translation>包含本程序不会写入的内容</translation>
+        <source>%1 is computed and has no bytes of its own.</source>
+        <translation>%1 由计算得出，没有自己的字节。</translation>
+    </message>
+    <message>
+        <source>Where fields lie in the bytes is not known in this format.</source>
+        <translation>此格式中不知道字段在字节中的位置。</translation>
+    </message>
+    <message>
+        <source>%1 has no bytes in this message.</source>
+        <translation>%1 在此消息中没有字节。</translation>
+    </message>
+    <message>
+        <source>Offset %1 (0x%2)</source>
+        <translation>位置 %1 (0x%2)</translation>
+    </message>
+    <message>
+        <source>, %1 bytes</source>
+        <translation>，%1 字节</translation>
+    </message>
+    <message>
+        <source>, in %1</source>
+        <translation>，位于 %1</translation>
     </message>
 </context>
 <context>
@@ -92,6 +112,25 @@
     <message>
         <source>Keep Them Hidden</source>
         <translation>保持隐藏</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::CrashTrace</name>
+    <message>
+        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
+        <translation>程序之前崩溃过。它最后的操作写在“%1”中。</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>打开文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>以后</translation>
     </message>
 </context>
 <context>
@@ -345,6 +384,73 @@
     <message>
         <source>Remove from: %1</source>
         <translation>从以下移除：%1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::FindBar</name>
+    <message>
+        <source>Find a name, a value or a path</source>
+        <translation>查找名称、值或路径</translation>
+    </message>
+    <message>
+        <source>Find in the tree</source>
+        <translation>在树中查找</translation>
+    </message>
+    <message>
+        <source>Looks in names, values and, with a dot or a bracket, in paths (&quot;position.lat&quot;, &quot;volt[2]&quot;); Escape closes</source>
+        <translation>在名称和值中查找；含点或方括号时也在路径中查找（“position.lat”、“volt[2]”）；按 Esc 关闭</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一个</translation>
+    </message>
+    <message>
+        <source>Go to the previous one (Shift+F3, Shift+Enter)</source>
+        <translation>转到上一个 (Shift+F3, Shift+Enter)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一个</translation>
+    </message>
+    <message>
+        <source>Go to the next one (F3, Enter)</source>
+        <translation>转到下一个 (F3, Enter)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Close and collapse what was expanded (Escape)</source>
+        <translation>关闭并折叠展开过的内容 (Esc)</translation>
+    </message>
+    <message>
+        <source>from the end again</source>
+        <translation>从末尾重新开始</translation>
+    </message>
+    <message>
+        <source>from the top again</source>
+        <translation>从开头重新开始</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>正在查找…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 个，共 %2 个</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>找到 %1 个</translation>
+    </message>
+    <message>
+        <source> so far</source>
+        <translation>（目前）</translation>
     </message>
 </context>
 <context>
@@ -1137,6 +1243,200 @@ Press Open again to start it.</source>
     </message>
 </context>
 <context>
+    <name>corvane::RowActions</name>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>复制值(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy the value as it is shown</source>
+        <translation>按显示的样子复制值</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>复制路径(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Copy the path by which the watch list, the plot and exports know the row</source>
+        <translation>复制监视列表、曲线图和导出用来指代该行的路径</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Row</source>
+        <translation>复制行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Copy the texts of all columns, with tabs between</source>
+        <translation>复制所有列的文本，以制表符分隔</translation>
+    </message>
+    <message>
+        <source>Copy Message as &amp;JSON</source>
+        <translation>将消息复制为 JSON(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Copy the whole message that is shown, as in an export</source>
+        <translation>按导出的形式复制显示的整条消息</translation>
+    </message>
+    <message>
+        <source>Add to &amp;Watch</source>
+        <translation>添加到监视(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Show the field in the list of watched fields</source>
+        <translation>在监视的字段列表中显示该字段</translation>
+    </message>
+    <message>
+        <source>P&amp;lot</source>
+        <translation>绘制曲线图(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Draw the field over time</source>
+        <translation>绘制字段随时间的变化</translation>
+    </message>
+    <message>
+        <source>Show &amp;Form</source>
+        <translation>显示表单(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Show the message type as a form</source>
+        <translation>以表单显示消息类型</translation>
+    </message>
+    <message>
+        <source>Show &amp;Bytes</source>
+        <translation>显示字节(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show the bytes of the message, with those of the field marked</source>
+        <translation>显示消息的字节，并标出字段的字节</translation>
+    </message>
+    <message>
+        <source>Filter by &amp;This Value</source>
+        <translation>按此值筛选(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Show only elements of lists that hold this value</source>
+        <translation>仅显示含有此值的列表元素</translation>
+    </message>
+    <message>
+        <source>E&amp;xpand Below</source>
+        <translation>展开下级(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Expand the row and all below</source>
+        <translation>展开该行及其所有下级</translation>
+    </message>
+    <message>
+        <source>C&amp;ollapse Below</source>
+        <translation>折叠下级(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Collapse the row and all below</source>
+        <translation>折叠该行及其所有下级</translation>
+    </message>
+    <message>
+        <source>No row is chosen</source>
+        <translation>未选择行</translation>
+    </message>
+    <message>
+        <source>This row stands for no field</source>
+        <translation>此行不代表任何字段</translation>
+    </message>
+    <message>
+        <source>This row has no value of its own</source>
+        <translation>此行没有自己的值</translation>
+    </message>
+    <message>
+        <source>No message of this type has come yet</source>
+        <translation>尚未收到此类型的消息</translation>
+    </message>
+    <message>
+        <source>A message type cannot be watched; choose a field</source>
+        <translation>无法监视消息类型；请选择字段</translation>
+    </message>
+    <message>
+        <source>Fields inside sub-messages cannot be watched</source>
+        <translation>无法监视子消息内的字段</translation>
+    </message>
+    <message>
+        <source>This build has no plot</source>
+        <translation>此版本不含曲线图</translation>
+    </message>
+    <message>
+        <source>A message type cannot be plotted; choose a numeric field</source>
+        <translation>无法绘制消息类型；请选择数值字段</translation>
+    </message>
+    <message>
+        <source>Only numeric fields can be plotted; this one is of type %1</source>
+        <translation>只能绘制数值字段；此字段的类型为 %1</translation>
+    </message>
+    <message>
+        <source>What this field holds is confidential</source>
+        <translation>此字段的内容是机密的</translation>
+    </message>
+    <message>
+        <source>Only values inside the elements of a list of sub-messages can be filtered by</source>
+        <translation>只能按子消息列表的元素内的值进行筛选</translation>
+    </message>
+    <message>
+        <source>There is no value</source>
+        <translation>没有值</translation>
+    </message>
+    <message>
+        <source>There is nothing below this row</source>
+        <translation>此行没有下级</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::RowDescription</name>
+    <message>
+        <source>list of %1</source>
+        <translation>%1 的列表</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1，单位 %2</translation>
+    </message>
+    <message>
+        <source>Empty in the newest message.</source>
+        <translation>在最新消息中为空。</translation>
+    </message>
+    <message>
+        <source>Absent: what it is computed from is not in the newest message.</source>
+        <translation>不存在：计算所需的内容不在最新消息中。</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message has another case of &quot;%1&quot;, or none.</source>
+        <translation>不存在：最新消息具有“%1”的另一种情况，或没有任何情况。</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message came without this field.</source>
+        <translation>不存在：最新消息不含此字段。</translation>
+    </message>
+    <message>
+        <source>Cut: only the beginning of %1 bytes is shown.</source>
+        <translation>已截断：仅显示 %1 字节的开头部分。</translation>
+    </message>
+    <message>
+        <source>Cut: only the beginning of %1 characters is shown.</source>
+        <translation>已截断：仅显示 %1 个字符的开头部分。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 elements do not pass the filter.</source>
+        <translation>%2 个元素中有 %1 个未通过筛选。</translation>
+    </message>
+    <message>
+        <source>No message of this type has come yet.</source>
+        <translation>尚未收到此类型的消息。</translation>
+    </message>
+    <message>
+        <source>Hidden: what it holds is confidential.</source>
+        <translation>已隐藏：其内容是机密的。</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message came without the sub-message around it.</source>
+        <translation>不存在：最新消息不含其所在的子消息。</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SenderChooser</name>
     <message>
         <source>Sender whose messages are shown</source>
@@ -1250,6 +1550,22 @@ Press Open again to start it.</source>
     <message>
         <source>The settings file &quot;%1&quot; could not be used: %2. Everything starts with its defaults, and nothing will be remembered.</source>
         <translation>无法使用设置文件“%1”：%2。全部以默认值开始，并且不会记住任何内容。</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>无法读取（%1)</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>太大</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>不是文本</translation>
+    </message>
+    <message>
+        <source>it holds what this program does not write</source>
+        <translation>包含本程序不会写入的内容</translation>
     </message>
 </context>
 <context>
