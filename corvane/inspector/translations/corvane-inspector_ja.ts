@@ -33,42 +33,62 @@
     </message>
 </context>
 <context>
-    <name>corvane</name>
+    <name>corvane::BytesPanel</name>
     <message>
-        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
-        <translation>プログラムは前回異常終了しました。最後に行ったことは「%1」に書かれています。</translation>
+        <source>Bytes of the message</source>
+        <translation>メッセージのバイト</translation>
     </message>
     <message>
-        <source>Open &amp;Folder</source>
-        <translation>フォルダーを開く(&amp;F)</translation>
+        <source>Arrow keys move, with Shift they select; Ctrl+C copies as hexadecimal; Enter or a double click goes to the field of a byte</source>
+        <translation>矢印キーで移動、Shift とともに押すと選択します。Ctrl+C で 16 進数としてコピー、Enter またはダブルクリックでバイトのフィールドへ移動します</translation>
     </message>
     <message>
-        <source>&amp;Delete</source>
-        <translation>削除(&amp;D)</translation>
+        <source>Choose a message or a field in the tree to see its bytes.</source>
+        <translation>バイトを見るには、ツリーでメッセージまたはフィールドを選んでください。</translation>
     </message>
     <message>
-        <source>Later</source>
-        <translation>後で</translation>
+        <source>%1: no message of this type has come yet.</source>
+        <translation>%1: この型のメッセージはまだ届いていません。</translation>
     </message>
     <message>
-        <source>it cannot be read (%1)</source>
-        <translation>読めません（%1)</translation>
+        <source>%1: this message did not come as bytes.</source>
+        <translation>%1: このメッセージはバイトとして届いたものではありません。</translation>
     </message>
     <message>
-        <source>it is too large</source>
-        <translation>大きすぎます</translation>
+        <source>%1: %2 bytes.</source>
+        <translation>%1: %2 バイト。</translation>
     </message>
     <message>
-        <source>it is no text</source>
-        <translation>テキストではありません</translation>
+        <source>Masked (··): all that may be confidential.</source>
+        <translation>伏せ字 (··): 機密の可能性があるものすべて。</translation>
     </message>
     <message>
-        <source>it is no settings file</source>
-        <translation>設定ファイルではありません</translation>
+        <source>%1: offset %2, length %3.</source>
+        <translation>%1: 位置 %2、長さ %3。</translation>
     </message>
     <message>
-        <source>it holds what this program does not write</source>
-        <translation>このプログラムが書かない内容が含まれています</translation>
+        <source>%1 is computed and has no bytes of its own.</source>
+        <translation>%1 は計算された値で、それ自体のバイトはありません。</translation>
+    </message>
+    <message>
+        <source>Where fields lie in the bytes is not known in this format.</source>
+        <translation>この形式では、フィールドがどのバイトにあるかわかりません。</translation>
+    </message>
+    <message>
+        <source>%1 has no bytes in this message.</source>
+        <translation>%1 のバイトはこのメッセージにありません。</translation>
+    </message>
+    <message>
+        <source>Offset %1 (0x%2)</source>
+        <translation>位置 %1 (0x%2)</translation>
+    </message>
+    <message>
+        <source>, %1 bytes</source>
+        <translation>、%1 バイト</translation>
+    </message>
+    <message>
+        <source>, in %1</source>
+        <translation>、%1 の中</translation>
     </message>
 </context>
 <context>
@@ -92,6 +112,25 @@
     <message>
         <source>Keep Them Hidden</source>
         <translation>隠したままにする</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::CrashTrace</name>
+    <message>
+        <source>The program has crashed before. What it did last is written in &quot;%1&quot;.</source>
+        <translation>プログラムは前回異常終了しました。最後に行ったことは「%1」に書かれています。</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>フォルダーを開く(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
     </message>
 </context>
 <context>
@@ -345,6 +384,73 @@
     <message>
         <source>Remove from: %1</source>
         <translation>削除元: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::FindBar</name>
+    <message>
+        <source>Find a name, a value or a path</source>
+        <translation>名前、値、パスを検索</translation>
+    </message>
+    <message>
+        <source>Find in the tree</source>
+        <translation>ツリー内を検索</translation>
+    </message>
+    <message>
+        <source>Looks in names, values and, with a dot or a bracket, in paths (&quot;position.lat&quot;, &quot;volt[2]&quot;); Escape closes</source>
+        <translation>名前と値を探します。ドットか角括弧があればパスも探します（「position.lat」、「volt[2]」）。Esc で閉じます</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>前へ</translation>
+    </message>
+    <message>
+        <source>Go to the previous one (Shift+F3, Shift+Enter)</source>
+        <translation>前の結果へ移動します (Shift+F3, Shift+Enter)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Go to the next one (F3, Enter)</source>
+        <translation>次の結果へ移動します (F3, Enter)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Close and collapse what was expanded (Escape)</source>
+        <translation>閉じて、展開したものを折りたたみます (Esc)</translation>
+    </message>
+    <message>
+        <source>from the end again</source>
+        <translation>末尾に戻って検索</translation>
+    </message>
+    <message>
+        <source>from the top again</source>
+        <translation>先頭に戻って検索</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>検索中…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 件中 %1 件目</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 件見つかりました</translation>
+    </message>
+    <message>
+        <source> so far</source>
+        <translation>（これまで）</translation>
     </message>
 </context>
 <context>
@@ -1137,6 +1243,200 @@ Press Open again to start it.</source>
     </message>
 </context>
 <context>
+    <name>corvane::RowActions</name>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>値をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy the value as it is shown</source>
+        <translation>値を表示のままコピーします</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>パスをコピー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Copy the path by which the watch list, the plot and exports know the row</source>
+        <translation>監視の一覧、グラフ、エクスポートでこの行を指すパスをコピーします</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Row</source>
+        <translation>行をコピー(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Copy the texts of all columns, with tabs between</source>
+        <translation>すべての列の文字をタブ区切りでコピーします</translation>
+    </message>
+    <message>
+        <source>Copy Message as &amp;JSON</source>
+        <translation>メッセージを JSON としてコピー(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Copy the whole message that is shown, as in an export</source>
+        <translation>表示中のメッセージ全体を、エクスポートと同じ形でコピーします</translation>
+    </message>
+    <message>
+        <source>Add to &amp;Watch</source>
+        <translation>監視に追加(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Show the field in the list of watched fields</source>
+        <translation>フィールドを監視中のフィールドの一覧に表示します</translation>
+    </message>
+    <message>
+        <source>P&amp;lot</source>
+        <translation>グラフに描く(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Draw the field over time</source>
+        <translation>フィールドの時間変化を描きます</translation>
+    </message>
+    <message>
+        <source>Show &amp;Form</source>
+        <translation>フォームを表示(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Show the message type as a form</source>
+        <translation>メッセージ型をフォームとして表示します</translation>
+    </message>
+    <message>
+        <source>Show &amp;Bytes</source>
+        <translation>バイトを表示(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show the bytes of the message, with those of the field marked</source>
+        <translation>メッセージのバイトを、フィールドの部分に印を付けて表示します</translation>
+    </message>
+    <message>
+        <source>Filter by &amp;This Value</source>
+        <translation>この値でフィルター(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Show only elements of lists that hold this value</source>
+        <translation>この値を持つリストの要素だけを表示します</translation>
+    </message>
+    <message>
+        <source>E&amp;xpand Below</source>
+        <translation>以下を展開(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Expand the row and all below</source>
+        <translation>行とその下のすべてを展開します</translation>
+    </message>
+    <message>
+        <source>C&amp;ollapse Below</source>
+        <translation>以下を折りたたむ(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Collapse the row and all below</source>
+        <translation>行とその下のすべてを折りたたみます</translation>
+    </message>
+    <message>
+        <source>No row is chosen</source>
+        <translation>行が選ばれていません</translation>
+    </message>
+    <message>
+        <source>This row stands for no field</source>
+        <translation>この行はフィールドを表していません</translation>
+    </message>
+    <message>
+        <source>This row has no value of its own</source>
+        <translation>この行自体には値がありません</translation>
+    </message>
+    <message>
+        <source>No message of this type has come yet</source>
+        <translation>この型のメッセージはまだ届いていません</translation>
+    </message>
+    <message>
+        <source>A message type cannot be watched; choose a field</source>
+        <translation>メッセージ型は監視できません。フィールドを選んでください</translation>
+    </message>
+    <message>
+        <source>Fields inside sub-messages cannot be watched</source>
+        <translation>サブメッセージの中のフィールドは監視できません</translation>
+    </message>
+    <message>
+        <source>This build has no plot</source>
+        <translation>このビルドにはグラフがありません</translation>
+    </message>
+    <message>
+        <source>A message type cannot be plotted; choose a numeric field</source>
+        <translation>メッセージ型はグラフに描けません。数値フィールドを選んでください</translation>
+    </message>
+    <message>
+        <source>Only numeric fields can be plotted; this one is of type %1</source>
+        <translation>グラフに描けるのは数値フィールドだけです。これは %1 型です</translation>
+    </message>
+    <message>
+        <source>What this field holds is confidential</source>
+        <translation>このフィールドの内容は機密です</translation>
+    </message>
+    <message>
+        <source>Only values inside the elements of a list of sub-messages can be filtered by</source>
+        <translation>フィルターに使えるのは、サブメッセージのリストの要素の中にある値だけです</translation>
+    </message>
+    <message>
+        <source>There is no value</source>
+        <translation>値がありません</translation>
+    </message>
+    <message>
+        <source>There is nothing below this row</source>
+        <translation>この行の下には何もありません</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::RowDescription</name>
+    <message>
+        <source>list of %1</source>
+        <translation>%1 のリスト</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1、単位 %2</translation>
+    </message>
+    <message>
+        <source>Empty in the newest message.</source>
+        <translation>最新のメッセージでは空です。</translation>
+    </message>
+    <message>
+        <source>Absent: what it is computed from is not in the newest message.</source>
+        <translation>なし: 計算のもとになるものが最新のメッセージにありません。</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message has another case of &quot;%1&quot;, or none.</source>
+        <translation>なし: 最新のメッセージには「%1」の別の選択肢があるか、どれもありません。</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message came without this field.</source>
+        <translation>なし: 最新のメッセージはこのフィールドなしで届きました。</translation>
+    </message>
+    <message>
+        <source>Cut: only the beginning of %1 bytes is shown.</source>
+        <translation>省略: %1 バイトの先頭だけを表示しています。</translation>
+    </message>
+    <message>
+        <source>Cut: only the beginning of %1 characters is shown.</source>
+        <translation>省略: %1 文字の先頭だけを表示しています。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 elements do not pass the filter.</source>
+        <translation>%2 個の要素のうち %1 個がフィルターに合いません。</translation>
+    </message>
+    <message>
+        <source>No message of this type has come yet.</source>
+        <translation>この型のメッセージはまだ届いていません。</translation>
+    </message>
+    <message>
+        <source>Hidden: what it holds is confidential.</source>
+        <translation>非表示: 内容は機密です。</translation>
+    </message>
+    <message>
+        <source>Absent: the newest message came without the sub-message around it.</source>
+        <translation>なし: 最新のメッセージは、これを含むサブメッセージなしで届きました。</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SenderChooser</name>
     <message>
         <source>Sender whose messages are shown</source>
@@ -1250,6 +1550,22 @@ Press Open again to start it.</source>
     <message>
         <source>The settings file &quot;%1&quot; could not be used: %2. Everything starts with its defaults, and nothing will be remembered.</source>
         <translation>設定ファイル「%1」を使えませんでした: %2。すべて既定値で始まり、何も記憶されません。</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>読めません（%1)</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>テキストではありません</translation>
+    </message>
+    <message>
+        <source>it holds what this program does not write</source>
+        <translation>このプログラムが書かない内容が含まれています</translation>
     </message>
 </context>
 <context>
