@@ -684,7 +684,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>&amp;Computed Fields</source>
-        <translation>Be&amp;rechnete Felder</translation>
+        <translation>&amp;Berechnete Felder</translation>
     </message>
     <message>
         <source>&amp;Secondary Fields</source>
@@ -696,7 +696,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>&amp;Expand All</source>
-        <translation>Alle auf&amp;klappen</translation>
+        <translation>Alle &amp;aufklappen</translation>
     </message>
     <message>
         <source>C&amp;ollapse All</source>
@@ -712,7 +712,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>Current Ro&amp;w</source>
-        <translation>Aktuelle &amp;Zeile</translation>
+        <translation>Aktue&amp;lle Zeile</translation>
     </message>
     <message>
         <source>&amp;Find…</source>
@@ -740,7 +740,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>Find &amp;Previous</source>
-        <translation>&amp;Rückwärts suchen</translation>
+        <translation>Rü&amp;ckwärts suchen</translation>
     </message>
     <message>
         <source>Shift+F3</source>
@@ -873,7 +873,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>This &amp;machine&apos;s own feed</source>
-        <translation>&amp;Daten dieses Rechners</translation>
+        <translation>Daten die&amp;ses Rechners</translation>
     </message>
     <message>
         <source>Load, memory, network, disks and processes of this machine, live</source>
@@ -1219,7 +1219,7 @@ Drücken Sie noch einmal auf „Öffnen“, um es zu starten.</translation>
     </message>
     <message>
         <source>Stop &amp;Recording</source>
-        <translation>Aufzeichnung &amp;beenden</translation>
+        <translation>Auf&amp;zeichnung beenden</translation>
     </message>
     <message>
         <source>&amp;Record…</source>

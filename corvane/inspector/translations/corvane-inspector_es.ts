@@ -203,7 +203,7 @@
     </message>
     <message>
         <source>Export &amp;Statistics...</source>
-        <translation>Exportar e&amp;stadísticas…</translation>
+        <translation>Exportar es&amp;tadísticas…</translation>
     </message>
     <message>
         <source>Write the counts of all message types as CSV</source>
@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Choose N&amp;one</source>
-        <translation>No elegir &amp;nada</translation>
+        <translation>No ele&amp;gir nada</translation>
     </message>
     <message>
         <source>Of what the list shows</source>
@@ -688,7 +688,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>&amp;Secondary Fields</source>
-        <translation>Campos &amp;secundarios</translation>
+        <translation>Campos s&amp;ecundarios</translation>
     </message>
     <message>
         <source>All &amp;Known Message Types</source>
@@ -929,7 +929,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>&amp;Definitions</source>
-        <translation>De&amp;finiciones</translation>
+        <translation>Defi&amp;niciones</translation>
     </message>
     <message>
         <source>O&amp;verlays</source>
@@ -1796,7 +1796,7 @@ Pulse Abrir otra vez para iniciarlo.</translation>
     </message>
     <message>
         <source>&amp;Refresh of Counts</source>
-        <translation>&amp;Refresco de recuentos</translation>
+        <translation>Re&amp;fresco de recuentos</translation>
     </message>
 </context>
 <context>

@@ -684,15 +684,15 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>&amp;Computed Fields</source>
-        <translation>Champs &amp;calculés</translation>
+        <translation>Champs calcu&amp;lés</translation>
     </message>
     <message>
         <source>&amp;Secondary Fields</source>
-        <translation>Champs &amp;secondaires</translation>
+        <translation>Champs sec&amp;ondaires</translation>
     </message>
     <message>
         <source>All &amp;Known Message Types</source>
-        <translation>Tous les types de messages &amp;connus</translation>
+        <translation>Tous les types de &amp;messages connus</translation>
     </message>
     <message>
         <source>&amp;Expand All</source>
@@ -700,7 +700,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>C&amp;ollapse All</source>
-        <translation>Tout &amp;replier</translation>
+        <translation>Tout repl&amp;ier</translation>
     </message>
     <message>
         <source>Show only repeated sub-messages with this name of a value</source>
@@ -1796,7 +1796,7 @@ Appuyez encore sur Ouvrir pour le démarrer.</translation>
     </message>
     <message>
         <source>&amp;Refresh of Counts</source>
-        <translation>&amp;Rafraîchissement des compteurs</translation>
+        <translation>Rafraîchisse&amp;ment des compteurs</translation>
     </message>
 </context>
 <context>
