@@ -1553,7 +1553,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>it cannot be read (%1)</source>
-        <translation>読めません（%1)</translation>
+        <translation>読めません（%1）</translation>
     </message>
     <message>
         <source>it is too large</source>
@@ -1595,7 +1595,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>Messages: %1 (%2 per second)</source>
-        <translation>メッセージ: %1（毎秒 %2)</translation>
+        <translation>メッセージ: %1（毎秒 %2）</translation>
     </message>
     <message>
         <source>, CRC errors: %1</source>
@@ -1646,7 +1646,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>Read on to the next message (Right, %1)</source>
-        <translation>次のメッセージまで読みます（右、%1)</translation>
+        <translation>次のメッセージまで読みます（右、%1）</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -1702,7 +1702,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>%1 (Space, %2)</source>
-        <translation>%1（スペース、%2)</translation>
+        <translation>%1（スペース、%2）</translation>
     </message>
     <message>
         <source>%1 / %2</source>

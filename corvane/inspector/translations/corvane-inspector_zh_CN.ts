@@ -488,7 +488,7 @@
     </message>
     <message>
         <source>Watch and Plot take paths of fields, FORMAT.MESSAGE.FIELD; * stands for any text.</source>
-        <translation>“监视”和“曲线图”使用字段的路径 FORMAT.MESSAGE.FIELD;* 代表任意文本。</translation>
+        <translation>“监视”和“曲线图”使用字段的路径 FORMAT.MESSAGE.FIELD；* 代表任意文本。</translation>
     </message>
     <message>
         <source>See what is lost</source>
@@ -917,7 +917,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>Protocol Buffers only: package.Type</source>
-        <translation>仅用于 Protocol Buffers:package.Type</translation>
+        <translation>仅用于 Protocol Buffers：package.Type</translation>
     </message>
     <message>
         <source>&amp;Source</source>
@@ -1057,7 +1057,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>FORMAT.MESSAGE.FIELD; * stands for any text, FIELD[2] is the third element of a repeated field, FIELD[0..3] are the first four</source>
-        <translation>FORMAT.MESSAGE.FIELD;* 代表任意文本，FIELD[2] 是重复字段的第三个元素，FIELD[0..3] 是前四个</translation>
+        <translation>FORMAT.MESSAGE.FIELD；* 代表任意文本，FIELD[2] 是重复字段的第三个元素，FIELD[0..3] 是前四个</translation>
     </message>
     <message>
         <source>Follow</source>
@@ -1125,7 +1125,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>No numeric field is named &quot;%1&quot;. A path is FORMAT.MESSAGE.FIELD; * stands for any text.</source>
-        <translation>没有名为“%1”的数值字段。路径为 FORMAT.MESSAGE.FIELD;* 代表任意文本。</translation>
+        <translation>没有名为“%1”的数值字段。路径为 FORMAT.MESSAGE.FIELD；* 代表任意文本。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names more than %2 fields; name fewer.</source>
@@ -1164,7 +1164,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>Nothing is plotted yet. Type the path of a numeric field above, such as FORMAT.MESSAGE.FIELD, and press Enter; FIELD[2] is the third element of a repeated field.</source>
-        <translation>尚未绘制任何内容。请在上方输入数值字段的路径，例如 FORMAT.MESSAGE.FIELD，然后按 Enter;FIELD[2] 是重复字段的第三个元素。</translation>
+        <translation>尚未绘制任何内容。请在上方输入数值字段的路径，例如 FORMAT.MESSAGE.FIELD，然后按 Enter；FIELD[2] 是重复字段的第三个元素。</translation>
     </message>
     <message>
         <source>No values yet. They appear as soon as messages with the chosen fields arrive.</source>
@@ -1553,7 +1553,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>it cannot be read (%1)</source>
-        <translation>无法读取（%1)</translation>
+        <translation>无法读取（%1）</translation>
     </message>
     <message>
         <source>it is too large</source>
@@ -1595,11 +1595,11 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>Messages: %1 (%2 per second)</source>
-        <translation>消息：%1（每秒 %2)</translation>
+        <translation>消息：%1（每秒 %2）</translation>
     </message>
     <message>
         <source>, CRC errors: %1</source>
-        <translation>,CRC 错误：%1</translation>
+        <translation>，CRC 错误：%1</translation>
     </message>
     <message>
         <source>, unknown: %1</source>
@@ -1646,7 +1646,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>Read on to the next message (Right, %1)</source>
-        <translation>读到下一条消息（右键，%1)</translation>
+        <translation>读到下一条消息（向右键，%1）</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -1702,7 +1702,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>%1 (Space, %2)</source>
-        <translation>%1（空格，%2)</translation>
+        <translation>%1（空格，%2）</translation>
     </message>
     <message>
         <source>%1 / %2</source>
@@ -1879,7 +1879,7 @@ Press Open again to start it.</source>
     </message>
     <message>
         <source>No field is named &quot;%1&quot;. A path is FORMAT.MESSAGE.FIELD; * stands for any text.</source>
-        <translation>没有名为“%1”的字段。路径为 FORMAT.MESSAGE.FIELD;* 代表任意文本。</translation>
+        <translation>没有名为“%1”的字段。路径为 FORMAT.MESSAGE.FIELD；* 代表任意文本。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names more than %2 fields; name fewer.</source>
