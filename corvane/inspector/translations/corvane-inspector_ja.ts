@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Choose N&amp;one</source>
-        <translation>選択解除(&amp;O)</translation>
+        <translation>選択解除(&amp;U)</translation>
     </message>
     <message>
         <source>Of what the list shows</source>

@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Choose N&amp;one</source>
-        <translation>全不选(&amp;O)</translation>
+        <translation>全不选(&amp;U)</translation>
     </message>
     <message>
         <source>Of what the list shows</source>
