@@ -1,7 +1,7 @@
 #include "eventlog.h"
 
 namespace {
-constexpr qsizetype maximumEntries = 100'000;
+constexpr qsizetype maximumEntries = 20'000;
 } // namespace
 
 namespace corvane {

@@ -5,7 +5,7 @@ using namespace corvane::test;
 
 namespace {
 
-constexpr int limit = 100'000;
+constexpr int limit = 20'000;
 
 EventLog::Entry entry(int number)
 {
