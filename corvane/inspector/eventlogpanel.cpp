@@ -79,6 +79,12 @@ EventLogPanel::EventLogPanel(EventLog &log, QWidget *parent)
     setFilter({});
 }
 
+EventLogPanel::~EventLogPanel()
+{
+    // It still moves while the table goes, after the panel.
+    table->verticalScrollBar()->disconnect(this);
+}
+
 void EventLogPanel::createTable()
 {
     table->setAccessibleName(tr("Event log"));

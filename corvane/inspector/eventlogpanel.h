@@ -23,6 +23,7 @@ class EventLogPanel : public QWidget
 public:
     /** \a log: not owned, must outlive the panel. */
     explicit EventLogPanel(EventLog &log, QWidget *parent = nullptr);
+    ~EventLogPanel() override;
 
     /** Shows the entries that contain \a text, in any case of letters; all for an empty text. */
     void setFilter(const QString &text);

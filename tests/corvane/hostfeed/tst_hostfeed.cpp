@@ -238,11 +238,13 @@ void TestHostFeed::listen_slowReader_doesNotHoldTheOthers()
     QByteArray bytes;
     std::vector<host::Envelope> envelopes;
     QTRY_VERIFY((readInto(*quick, bytes, envelopes), envelopes.size() >= 90));
-    const qint64 before = server.getResidentKilobytes();
+    [[maybe_unused]] const qint64 before = server.getResidentKilobytes();
     QVERIFY(before > 0);
     QTRY_VERIFY_WITH_TIMEOUT((readInto(*quick, bytes, envelopes), envelopes.size() >= 630), 20000);
     QCOMPARE(envelopes.back().feed().dropped_rounds(), 0);
+#ifndef __SANITIZE_ADDRESS__ // which keeps what was freed for some time
     QVERIFY(server.getResidentKilobytes() < before + 2000);
+#endif
     for (size_t i = 1; i < envelopes.size(); ++i)
         QCOMPARE(envelopes[i].sequence(), envelopes[i - 1].sequence() + 1);
 
