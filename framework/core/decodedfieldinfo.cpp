@@ -24,10 +24,8 @@ bool DecodedFieldInfo::isConfidentialIn(const Message *message) const
 
 FieldValue DecodedFieldInfo::getValue(const Message *message, unsigned int index) const
 {
-    if (index >= getNumberOfValues(message))
-        return FieldValue::invalid();
     FieldValue value = readValue(message, index);
-    if (isConfidentialIn(message))
+    if (value.isValid() && isConfidentialIn(message))
         value.setConfidential(true);
     return value;
 }

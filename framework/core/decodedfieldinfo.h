@@ -11,8 +11,8 @@ struct FieldInfoData;
 CORVANEFRAMEWORK_EXPORT QString confidentialText();
 
 /**
- * Base of the formats' fields: keeps confidential values hidden and indices in range, so that a
- * format only says how many values there are and how one is read.
+ * Base of the formats' fields: keeps confidential values hidden, so that a format only says how
+ * many values there are and how one is read.
  */
 class CORVANEFRAMEWORK_EXPORT DecodedFieldInfo : public FieldInfo
 {
@@ -23,7 +23,7 @@ public:
     QString getString(const Message *message) const final;
 
 protected:
-    /** Reads the value at \a index, which is below getNumberOfValues(). */
+    /** Reads the value at \a index; an invalid one at or beyond getNumberOfValues(). */
     virtual FieldValue readValue(const Message *message, unsigned int index) const = 0;
     /** The whole text of a string field; by default its characters one behind the other. */
     virtual QString readString(const Message *message) const;

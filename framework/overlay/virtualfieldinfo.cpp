@@ -119,8 +119,10 @@ VirtualFieldInfo::getValueText(const Message *message, unsigned int index, bool 
     return interpreted ? getInterpretedString(value, true) : getRawString(value);
 }
 
-FieldValue VirtualFieldInfo::readValue(const Message *message, unsigned int) const
+FieldValue VirtualFieldInfo::readValue(const Message *message, unsigned int index) const
 {
+    if (index >= getNumberOfValues(message))
+        return FieldValue::invalid();
     QVarLengthArray<double, 16> numbers;
     bool confidential = false;
     for (const Operand &operand : operands) {

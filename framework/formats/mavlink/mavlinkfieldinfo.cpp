@@ -84,6 +84,8 @@ quint64 MavlinkFieldInfo::readBits(const MavlinkMessage &message, unsigned int i
 
 FieldValue MavlinkFieldInfo::readValue(const Message *message, unsigned int index) const
 {
+    if (index >= getNumberOfValues(message))
+        return FieldValue::invalid();
     const quint64 bits = readBits(asMavlink(message), index);
     const int sizeBits = elementSize * 8;
     switch (getType().getCode()) {

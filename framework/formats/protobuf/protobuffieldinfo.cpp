@@ -1,8 +1,8 @@
 #include "protobuffieldinfo.h"
 
 #include "descriptions.h"
-#include "protobufmessage.h"
 
+#include <google/protobuf/repeated_field.h>
 #include <google/protobuf/unknown_field_set.h>
 
 #include <algorithm>
@@ -14,9 +14,12 @@ using google::protobuf::FieldDescriptor;
 using google::protobuf::FileDescriptor;
 using google::protobuf::Reflection;
 
+namespace pb = google::protobuf;
+
 namespace {
 
 using Content = google::protobuf::Message;
+using MessageList = google::protobuf::RepeatedPtrField<Content>;
 
 const ProtobufMessage &asProtobuf(const Message *message)
 {
@@ -28,13 +31,15 @@ QString fromUtf8(const std::string &text)
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-bool isAscii(const std::string &text)
+unsigned int countCharacters(const std::string &text)
 {
-    return std::all_of(text.begin(), text.end(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    const bool ascii = std::all_of(text.begin(), text.end(),
+                                   [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return static_cast<unsigned int>(ascii ? static_cast<qsizetype>(text.size())
+                                           : fromUtf8(text).toUcs4().size());
 }
 
-QString cutText(const QString &text, qsizetype maximum)
+QString cutText(QString text, qsizetype maximum)
 {
     if (text.size() <= maximum)
         return text;
@@ -53,9 +58,12 @@ FieldValue bytesValue(const std::string &bytes)
 }
 
 /** The unknown values of a field with a closed enumeration, up to \a wanted; their count. */
-int findUnknownValues(const Content &message, const FieldDescriptor *field, int wanted, int *value)
+int findUnknownValues(const ProtobufMessage &message,
+                      const FieldDescriptor *field,
+                      int wanted,
+                      int *value)
 {
-    const auto &unknown = message.GetReflection()->GetUnknownFields(message);
+    const auto &unknown = message.getReflection().GetUnknownFields(message.getMessage());
     int count = 0;
     for (int i = 0; i < unknown.field_count(); ++i) {
         const google::protobuf::UnknownField &entry = unknown.field(i);
@@ -70,6 +78,35 @@ int findUnknownValues(const Content &message, const FieldDescriptor *field, int 
     return count;
 }
 
+QString textIn(const ProtobufMessage::Values &values)
+{
+    const std::string &text = *static_cast<const std::string *>(values.data);
+    const bool ascii = text.size() == values.count;
+    return ascii ? QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()))
+                 : fromUtf8(text);
+}
+
+// What libprotobuf offers in the place of these lists reads each element by a virtual call.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+
+template <typename Number>
+ProtobufMessage::Values numbersOf(const ProtobufMessage &message, const FieldDescriptor *field)
+{
+    const auto &list
+        = message.getReflection().GetRepeatedField<Number>(message.getMessage(), field);
+    return {static_cast<unsigned int>(list.size()), list.data()};
+}
+
+ProtobufMessage::Values messagesOf(const ProtobufMessage &message, const FieldDescriptor *field)
+{
+    const auto &list
+        = message.getReflection().GetRepeatedPtrField<Content>(message.getMessage(), field);
+    return {static_cast<unsigned int>(list.size()), &list};
+}
+
+QT_WARNING_POP
+
 } // namespace
 
 ProtobufFieldInfo::ProtobufFieldInfo(const FieldDescriptor *descriptor,
@@ -80,6 +117,7 @@ ProtobufFieldInfo::ProtobufFieldInfo(const FieldDescriptor *descriptor,
     , descriptor(descriptor)
     , owner(owner)
     , cppType(descriptor->cpp_type())
+    , isText(isStringField())
     , isList(descriptor->is_repeated())
     , hasPresence(descriptor->has_presence())
     , isMap(descriptor->is_map())
@@ -88,152 +126,187 @@ ProtobufFieldInfo::ProtobufFieldInfo(const FieldDescriptor *descriptor,
 {
 }
 
-int ProtobufFieldInfo::countPresent(const Content &message) const
-{
-    if (!isList && !hasPresence)
-        return 1;
-    const Reflection *reflection = message.GetReflection();
-    int unused = 0;
-    if (isList) {
-        const int count = reflection->FieldSize(message, descriptor);
-        return closedEnumeration ? count + findUnknownValues(message, descriptor, -1, &unused)
-                                 : count;
-    }
-    if (reflection->HasField(message, descriptor))
-        return 1;
-    return closedEnumeration && findUnknownValues(message, descriptor, 0, &unused) != 0 ? 1 : 0;
-}
-
 bool ProtobufFieldInfo::isPresent(const Message *message) const
 {
-    return message->getInfo() == owner && countPresent(asProtobuf(message).getMessage()) != 0;
+    if (message->getInfo() != owner)
+        return false;
+    const ProtobufMessage &owning = asProtobuf(message);
+    return isList ? getValues(owning).count != 0 : hasSingle(owning);
 }
 
 unsigned int ProtobufFieldInfo::getNumberOfValues(const Message *message) const
 {
-    if (message->getInfo() != owner)
-        return 0;
-    const Content &content = asProtobuf(message).getMessage();
-    if (!isStringField())
-        return static_cast<unsigned int>(countPresent(content));
-    std::string scratch;
-    const std::string &text
-        = content.GetReflection()->GetStringReference(content, descriptor, &scratch);
-    return static_cast<unsigned int>(isAscii(text) ? static_cast<qsizetype>(text.size())
-                                                   : fromUtf8(text).toUcs4().size());
+    return message->getInfo() == owner ? getValues(asProtobuf(message)).count : 0;
+}
+
+const ProtobufMessage::Values &ProtobufFieldInfo::getValues(const ProtobufMessage &owning) const
+{
+    return owning.getValues(this, [&] { return findValues(owning); });
+}
+
+ProtobufMessage::Values ProtobufFieldInfo::findValues(const ProtobufMessage &owning) const
+{
+    if (isText) {
+        const std::string &text = getTextOf(owning);
+        return {countCharacters(text), &text};
+    }
+    if (!isList)
+        return {hasSingle(owning) ? 1U : 0U, nullptr};
+    switch (cppType) {
+    case FieldDescriptor::CPPTYPE_INT32:
+        return numbersOf<pb::int32>(owning, descriptor);
+    case FieldDescriptor::CPPTYPE_INT64:
+        return numbersOf<pb::int64>(owning, descriptor);
+    case FieldDescriptor::CPPTYPE_UINT32:
+        return numbersOf<pb::uint32>(owning, descriptor);
+    case FieldDescriptor::CPPTYPE_UINT64:
+        return numbersOf<pb::uint64>(owning, descriptor);
+    case FieldDescriptor::CPPTYPE_DOUBLE:
+        return numbersOf<double>(owning, descriptor);
+    case FieldDescriptor::CPPTYPE_FLOAT:
+        return numbersOf<float>(owning, descriptor);
+    case FieldDescriptor::CPPTYPE_BOOL:
+        return numbersOf<bool>(owning, descriptor);
+    case FieldDescriptor::CPPTYPE_MESSAGE:
+        return messagesOf(owning, descriptor);
+    default: {
+        const int known = owning.getReflection().FieldSize(owning.getMessage(), descriptor);
+        int unused = 0;
+        const int unknown
+            = closedEnumeration ? findUnknownValues(owning, descriptor, -1, &unused) : 0;
+        return {static_cast<unsigned int>(known + unknown), nullptr};
+    }
+    }
+}
+
+bool ProtobufFieldInfo::hasSingle(const ProtobufMessage &owning) const
+{
+    if (!hasPresence || owning.getReflection().HasField(owning.getMessage(), descriptor))
+        return true;
+    int unused = 0;
+    return closedEnumeration && findUnknownValues(owning, descriptor, 0, &unused) != 0;
 }
 
 FieldValue ProtobufFieldInfo::readValue(const Message *message, unsigned int index) const
 {
+    if (message->getInfo() != owner)
+        return FieldValue::invalid();
     const ProtobufMessage &owning = asProtobuf(message);
-    if (isStringField())
+    const ProtobufMessage::Values values = getValues(owning);
+    if (index >= values.count)
+        return FieldValue::invalid();
+    if (cppType == FieldDescriptor::CPPTYPE_MESSAGE)
+        return readSubMessage(owning, values, index);
+    if (isText)
         return FieldValue::fromCharacter(
-            readText(owning.getMessage()).toUcs4().value(static_cast<qsizetype>(index)));
-    if (cppType == FieldDescriptor::CPPTYPE_MESSAGE && getType().getCode() != FieldType::SubMessage)
-        return FieldValue::fromText(QStringLiteral("(nested too deeply to be shown)"));
+            textIn(values).toUcs4().value(static_cast<qsizetype>(index)));
+    if (values.data != nullptr)
+        return readNumber(values.data, index);
     return isList ? readElement(owning, static_cast<int>(index)) : readSingle(owning);
 }
 
-FieldValue ProtobufFieldInfo::makeSubMessage(const ProtobufMessage &owning,
-                                             const Content &part) const
+FieldValue ProtobufFieldInfo::readSubMessage(const ProtobufMessage &owning,
+                                             const ProtobufMessage::Values &values,
+                                             unsigned int index) const
 {
-    return FieldValue::fromSubMessage(
-        owning.getPart(part, getType().getSubMessageInfo(), isConfidential()));
+    if (getType().getCode() != FieldType::SubMessage)
+        return FieldValue::fromText(QStringLiteral("(nested too deeply to be shown)"));
+    const auto read = [&]() -> const Content & {
+        if (!isList)
+            return owning.getReflection().GetMessage(owning.getMessage(), descriptor);
+        return isMap ? owning.getMapEntry(descriptor, static_cast<int>(index))
+                     : static_cast<const MessageList *>(values.data)->Get(static_cast<int>(index));
+    };
+    return FieldValue::fromSubMessage(owning.getPart(this, index, values.count, read));
 }
 
 FieldValue ProtobufFieldInfo::readSingle(const ProtobufMessage &owning) const
 {
     const Content &message = owning.getMessage();
-    const Reflection *reflection = message.GetReflection();
+    const Reflection &reflection = owning.getReflection();
     switch (cppType) {
     case FieldDescriptor::CPPTYPE_INT32:
-        return FieldValue::fromSigned(reflection->GetInt32(message, descriptor), 32);
+        return FieldValue::fromSigned(reflection.GetInt32(message, descriptor), 32);
     case FieldDescriptor::CPPTYPE_INT64:
-        return FieldValue::fromSigned(reflection->GetInt64(message, descriptor), 64);
+        return FieldValue::fromSigned(reflection.GetInt64(message, descriptor), 64);
     case FieldDescriptor::CPPTYPE_UINT32:
-        return FieldValue::fromUnsigned(reflection->GetUInt32(message, descriptor), 32);
+        return FieldValue::fromUnsigned(reflection.GetUInt32(message, descriptor), 32);
     case FieldDescriptor::CPPTYPE_UINT64:
-        return FieldValue::fromUnsigned(reflection->GetUInt64(message, descriptor), 64);
+        return FieldValue::fromUnsigned(reflection.GetUInt64(message, descriptor), 64);
     case FieldDescriptor::CPPTYPE_DOUBLE:
-        return FieldValue::fromDouble(reflection->GetDouble(message, descriptor));
+        return FieldValue::fromDouble(reflection.GetDouble(message, descriptor));
     case FieldDescriptor::CPPTYPE_FLOAT:
-        return FieldValue::fromFloat(reflection->GetFloat(message, descriptor));
+        return FieldValue::fromFloat(reflection.GetFloat(message, descriptor));
     case FieldDescriptor::CPPTYPE_BOOL:
-        return FieldValue::fromBoolean(reflection->GetBool(message, descriptor));
+        return FieldValue::fromBoolean(reflection.GetBool(message, descriptor));
     case FieldDescriptor::CPPTYPE_ENUM: {
-        int number = reflection->GetEnumValue(message, descriptor);
-        if (closedEnumeration && !reflection->HasField(message, descriptor))
-            findUnknownValues(message, descriptor, 0, &number);
+        int number = reflection.GetEnumValue(message, descriptor);
+        if (closedEnumeration && !reflection.HasField(message, descriptor))
+            findUnknownValues(owning, descriptor, 0, &number);
         return FieldValue::fromSigned(number, 32);
     }
-    case FieldDescriptor::CPPTYPE_STRING: {
-        // A text of one value is a string field and not read here.
-        std::string scratch;
-        return bytesValue(reflection->GetStringReference(message, descriptor, &scratch));
-    }
+    case FieldDescriptor::CPPTYPE_STRING: // bytes; a text is a string field
+        return bytesValue(getTextOf(owning));
     case FieldDescriptor::CPPTYPE_MESSAGE:
-        return makeSubMessage(owning, reflection->GetMessage(message, descriptor));
+        break; // readSubMessage()
     }
     return FieldValue::invalid();
+}
+
+FieldValue ProtobufFieldInfo::readNumber(const void *numbers, unsigned int index) const
+{
+    switch (cppType) {
+    case FieldDescriptor::CPPTYPE_INT32:
+        return FieldValue::fromSigned(static_cast<const pb::int32 *>(numbers)[index], 32);
+    case FieldDescriptor::CPPTYPE_INT64:
+        return FieldValue::fromSigned(static_cast<const pb::int64 *>(numbers)[index], 64);
+    case FieldDescriptor::CPPTYPE_UINT32:
+        return FieldValue::fromUnsigned(static_cast<const pb::uint32 *>(numbers)[index], 32);
+    case FieldDescriptor::CPPTYPE_UINT64:
+        return FieldValue::fromUnsigned(static_cast<const pb::uint64 *>(numbers)[index], 64);
+    case FieldDescriptor::CPPTYPE_DOUBLE:
+        return FieldValue::fromDouble(static_cast<const double *>(numbers)[index]);
+    case FieldDescriptor::CPPTYPE_FLOAT:
+        return FieldValue::fromFloat(static_cast<const float *>(numbers)[index]);
+    case FieldDescriptor::CPPTYPE_BOOL:
+        return FieldValue::fromBoolean(static_cast<const bool *>(numbers)[index]);
+    default:
+        return FieldValue::invalid();
+    }
 }
 
 FieldValue ProtobufFieldInfo::readElement(const ProtobufMessage &owning, int index) const
 {
     const Content &message = owning.getMessage();
-    const Reflection *reflection = message.GetReflection();
-    switch (cppType) {
-    case FieldDescriptor::CPPTYPE_INT32:
-        return FieldValue::fromSigned(reflection->GetRepeatedInt32(message, descriptor, index), 32);
-    case FieldDescriptor::CPPTYPE_INT64:
-        return FieldValue::fromSigned(reflection->GetRepeatedInt64(message, descriptor, index), 64);
-    case FieldDescriptor::CPPTYPE_UINT32:
-        return FieldValue::fromUnsigned(reflection->GetRepeatedUInt32(message, descriptor, index),
-                                        32);
-    case FieldDescriptor::CPPTYPE_UINT64:
-        return FieldValue::fromUnsigned(reflection->GetRepeatedUInt64(message, descriptor, index),
-                                        64);
-    case FieldDescriptor::CPPTYPE_DOUBLE:
-        return FieldValue::fromDouble(reflection->GetRepeatedDouble(message, descriptor, index));
-    case FieldDescriptor::CPPTYPE_FLOAT:
-        return FieldValue::fromFloat(reflection->GetRepeatedFloat(message, descriptor, index));
-    case FieldDescriptor::CPPTYPE_BOOL:
-        return FieldValue::fromBoolean(reflection->GetRepeatedBool(message, descriptor, index));
-    case FieldDescriptor::CPPTYPE_ENUM: {
-        const int known = reflection->FieldSize(message, descriptor);
+    const Reflection &reflection = owning.getReflection();
+    if (cppType == FieldDescriptor::CPPTYPE_ENUM) {
+        const int known = reflection.FieldSize(message, descriptor);
         int number = 0;
         if (index < known)
-            number = reflection->GetRepeatedEnumValue(message, descriptor, index);
+            number = reflection.GetRepeatedEnumValue(message, descriptor, index);
         else
-            findUnknownValues(message, descriptor, index - known, &number);
+            findUnknownValues(owning, descriptor, index - known, &number);
         return FieldValue::fromSigned(number, 32);
     }
-    case FieldDescriptor::CPPTYPE_STRING: {
-        std::string scratch;
-        const std::string &text
-            = reflection->GetRepeatedStringReference(message, descriptor, index, &scratch);
-        return descriptor->type() == FieldDescriptor::TYPE_BYTES
-                   ? bytesValue(text)
-                   : FieldValue::fromText(cutText(fromUtf8(text), maximumCharacters));
-    }
-    case FieldDescriptor::CPPTYPE_MESSAGE:
-        return makeSubMessage(owning,
-                              isMap ? owning.getMapEntry(descriptor, index)
-                                    : reflection->GetRepeatedMessage(message, descriptor, index));
-    }
-    return FieldValue::invalid();
+    std::string unused; // a message keeps its texts itself
+    const std::string &text
+        = reflection.GetRepeatedStringReference(message, descriptor, index, &unused);
+    return descriptor->type() == FieldDescriptor::TYPE_BYTES
+               ? bytesValue(text)
+               : FieldValue::fromText(cutText(fromUtf8(text), maximumCharacters));
 }
 
-QString ProtobufFieldInfo::readText(const Content &message) const
+const std::string &ProtobufFieldInfo::getTextOf(const ProtobufMessage &owning) const
 {
-    std::string scratch;
-    return fromUtf8(message.GetReflection()->GetStringReference(message, descriptor, &scratch));
+    static std::string unused; // a message keeps its texts itself
+    return owning.getReflection().GetStringReference(owning.getMessage(), descriptor, &unused);
 }
 
 QString ProtobufFieldInfo::readString(const Message *message) const
 {
     if (message->getInfo() != owner)
         return {};
-    return cutText(readText(asProtobuf(message).getMessage()), maximumCharacters);
+    return cutText(textIn(getValues(asProtobuf(message))), maximumCharacters);
 }
 
 ProtobufAnyFieldInfo::ProtobufAnyFieldInfo(const google::protobuf::Descriptor *content,
@@ -255,11 +328,13 @@ unsigned int ProtobufAnyFieldInfo::getNumberOfValues(const Message *message) con
     return resolved != nullptr && resolved->GetDescriptor() == content ? 1 : 0;
 }
 
-FieldValue ProtobufAnyFieldInfo::readValue(const Message *message, unsigned int) const
+FieldValue ProtobufAnyFieldInfo::readValue(const Message *message, unsigned int index) const
 {
+    if (index >= getNumberOfValues(message))
+        return FieldValue::invalid();
     const ProtobufMessage &any = asProtobuf(message);
-    return FieldValue::fromSubMessage(any.getPart(*any.resolveAny(any.getMessage()),
-                                                  getType().getSubMessageInfo(), isConfidential()));
+    return FieldValue::fromSubMessage(any.getPart(
+        this, index, 1, [&]() -> const Content & { return *any.resolveAny(any.getMessage()); }));
 }
 
 std::optional<quint64> readProtobufInteger(const Content &message, const FieldDescriptor *field)

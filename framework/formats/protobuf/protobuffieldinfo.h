@@ -2,18 +2,14 @@
 
 #include "corvaneframework_export.h"
 #include "decodedfieldinfo.h"
+#include "protobufmessage.h"
 
 #include <google/protobuf/descriptor.h>
 
 #include <optional>
-
-namespace google::protobuf {
-class Message;
-} // namespace google::protobuf
+#include <string>
 
 namespace corvane {
-
-class ProtobufMessage;
 
 /**
  * A field of a Protocol Buffers message type.
@@ -47,16 +43,21 @@ protected:
     QString readString(const Message *message) const override;
 
 private:
-    int countPresent(const google::protobuf::Message &message) const;
-    FieldValue readSingle(const ProtobufMessage &message) const;
-    FieldValue readElement(const ProtobufMessage &message, int index) const;
-    FieldValue makeSubMessage(const ProtobufMessage &owner,
-                              const google::protobuf::Message &part) const;
-    QString readText(const google::protobuf::Message &message) const;
+    const ProtobufMessage::Values &getValues(const ProtobufMessage &owning) const;
+    ProtobufMessage::Values findValues(const ProtobufMessage &owning) const;
+    bool hasSingle(const ProtobufMessage &owning) const;
+    FieldValue readSingle(const ProtobufMessage &owning) const;
+    FieldValue readNumber(const void *numbers, unsigned int index) const;
+    FieldValue readElement(const ProtobufMessage &owning, int index) const;
+    FieldValue readSubMessage(const ProtobufMessage &owning,
+                              const ProtobufMessage::Values &values,
+                              unsigned int index) const;
+    const std::string &getTextOf(const ProtobufMessage &owning) const;
 
     const google::protobuf::FieldDescriptor *descriptor;
     const MessageInfo *owner; ///< Not owned.
     google::protobuf::FieldDescriptor::CppType cppType;
+    bool isText; ///< As isStringField().
     bool isList; ///< Other than isRepeated(), no string field.
     bool hasPresence;
     bool isMap;

@@ -103,50 +103,57 @@ ProtobufMessage::ProtobufMessage(const MessageInfo *info,
                                  bool confidential)
     : DecodedMessage(info, timeUs, 0, confidential)
     , message(message)
-    , mainMessage(this)
-    , content(std::move(content))
+    , reflection(*message.GetReflection())
+    , owned(std::move(content))
+    , content(owned.get())
 {
 }
 
 ProtobufMessage::ProtobufMessage(const MessageInfo *info,
-                                 const ProtobufMessage *mainMessage,
+                                 const ProtobufMessage *owner,
                                  const google::protobuf::Message &message,
                                  bool confidential)
-    : DecodedMessage(info, mainMessage, confidential)
+    : DecodedMessage(info, owner, confidential)
     , message(message)
-    , mainMessage(mainMessage)
+    , reflection(*message.GetReflection())
+    , content(owner->content)
 {
-}
-
-ProtobufMessage::~ProtobufMessage()
-{
-    for (const ProtobufMessage *part : std::as_const(parts))
-        delete part;
 }
 
 QByteArrayView ProtobufMessage::getBytes() const
 {
-    return content != nullptr ? content->getBytes() : QByteArrayView();
+    return owned != nullptr ? owned->getBytes() : QByteArrayView();
 }
 
-const ProtobufMessage *ProtobufMessage::getPart(const google::protobuf::Message &part,
-                                                const MessageInfo *info,
-                                                bool confidential) const
+const ProtobufMessage **ProtobufMessage::findParts(const FieldInfo *field, unsigned int count) const
 {
-    const ProtobufMessage *&known = mainMessage->parts[&part];
-    if (known == nullptr)
-        known = new ProtobufMessage(info, mainMessage, part, confidential || isConfidential());
-    return known;
+    for (Parts *known = parts; known != nullptr; known = known->next)
+        if (known->field == field)
+            return known->messages;
+    Arena *arena = content->getArena();
+    const auto **messages = Arena::CreateArray<const ProtobufMessage *>(arena, count);
+    std::fill_n(messages, count, nullptr);
+    parts = Arena::Create<Parts>(arena, Parts{field, messages, parts});
+    return messages;
+}
+
+const ProtobufMessage *ProtobufMessage::makePart(const FieldInfo *field,
+                                                 const google::protobuf::Message &part) const
+{
+    // It owns nothing outside of the arena and ends with that, without a destructor.
+    void *place = Arena::CreateArray<char>(content->getArena(), sizeof(ProtobufMessage));
+    return new (place)
+        ProtobufMessage(field->getType().getSubMessageInfo(), this, part, field->isConfidential());
 }
 
 const google::protobuf::Message &ProtobufMessage::getMapEntry(const FieldDescriptor *map,
                                                               int index) const
 {
-    std::vector<Key> &entries = mainMessage->maps[{&message, map}];
+    using Key = ProtobufContent::Key;
+    std::vector<Key> &entries = content->getMapEntries(&message, map);
     if (entries.empty()) {
-        const auto *reflection = message.GetReflection();
-        for (int i = 0; i < reflection->FieldSize(message, map); ++i)
-            entries.push_back(&reflection->GetRepeatedMessage(message, map, i));
+        for (int i = 0; i < reflection.FieldSize(message, map); ++i)
+            entries.push_back(&reflection.GetRepeatedMessage(message, map, i));
         const FieldDescriptor *key = map->message_type()->map_key();
         std::stable_sort(entries.begin(), entries.end(),
                          [key](Key left, Key right) { return isBefore(*left, *right, key); });
@@ -157,24 +164,25 @@ const google::protobuf::Message &ProtobufMessage::getMapEntry(const FieldDescrip
 const google::protobuf::Message *
 ProtobufMessage::resolveAny(const google::protobuf::Message &any) const
 {
-    const auto known = mainMessage->resolved.constFind(&any);
-    if (known != mainMessage->resolved.cend())
+    auto &resolved = content->getResolved();
+    const auto known = resolved.constFind(&any);
+    if (known != resolved.cend())
         return *known;
 
     const auto *reflection = any.GetReflection();
     const auto *descriptor = any.GetDescriptor();
     const std::string url = reflection->GetString(any, descriptor->FindFieldByNumber(1));
     const std::string bytes = reflection->GetString(any, descriptor->FindFieldByNumber(2));
-    const ProtobufSchema &schema = mainMessage->content->getSchema();
+    const ProtobufSchema &schema = content->getSchema();
     const auto *type = schema.findMessage(QString::fromStdString(url.substr(url.rfind('/') + 1)));
     google::protobuf::Message *inner = nullptr;
     if (type != nullptr && !ProtobufContent::isTooMuch(type, QByteArrayView(bytes))) {
         const google::protobuf::LogSilencer silencer;
-        inner = schema.getPrototype(type)->New(mainMessage->content->getArena());
+        inner = schema.getPrototype(type)->New(content->getArena());
         if (!inner->ParsePartialFromString(bytes))
             inner = nullptr;
     }
-    mainMessage->resolved.insert(&any, inner);
+    resolved.insert(&any, inner);
     return inner;
 }
 

@@ -2,6 +2,7 @@
 
 #include "corvaneframework_export.h"
 #include "decodedmessage.h"
+#include "fieldinfo.h"
 #include "protobufschema.h"
 
 #include <QByteArrayView>
@@ -40,6 +41,17 @@ public:
     /** Where whatever belongs to the message can be put. */
     google::protobuf::Arena *getArena() { return &arena; }
 
+    using Key = const google::protobuf::Message *;
+
+    /** What the Any messages hold that were asked for it: in the arena, or null. */
+    QHash<Key, Key> &getResolved() { return resolved; }
+
+    /** The entries of the maps that were asked for them, in the order of their keys. */
+    std::vector<Key> &getMapEntries(Key message, const google::protobuf::FieldDescriptor *map)
+    {
+        return maps[{message, map}];
+    }
+
 private:
     ProtobufContent(std::shared_ptr<const ProtobufSchema> schema, QByteArrayView bytes);
 
@@ -48,9 +60,16 @@ private:
     google::protobuf::Arena arena;
     const google::protobuf::Message *root = nullptr; ///< In the arena.
     QByteArrayView bytes; ///< In the arena.
+    QHash<Key, Key> resolved;
+    QHash<std::pair<Key, const google::protobuf::FieldDescriptor *>, std::vector<Key>> maps;
 };
 
-/** A message of a stream, or a sub-message of one, which is made when first asked for. */
+/**
+ * A message of a stream, or a sub-message of one, which is made when first asked for.
+ *
+ * What has been found out is kept for whoever asks next, so a message with all its parts is read by
+ * one thread at a time.
+ */
 class CORVANEFRAMEWORK_EXPORT ProtobufMessage final : public DecodedMessage
 {
 public:
@@ -70,11 +89,42 @@ public:
 
     const google::protobuf::Message &getMessage() const { return message; }
 
-    /** The sub-message for \a part, a message inside this one; the same whenever it is asked for.
+    /** As that of the message, which is asked for so often that the way there counts. */
+    const google::protobuf::Reflection &getReflection() const { return reflection; }
+
+    /** What a field has in a message. */
+    struct Values
+    {
+        unsigned int count = 0;
+        /** What libprotobuf has there: of numbers the first one, of messages the list, a text. */
+        const void *data = nullptr;
+    };
+
+    /** What \a find finds for \a field, which is not asked again while it is asked for that. */
+    template <typename Find>
+    const Values &getValues(const FieldInfo *field, Find &&find) const
+    {
+        if (lastField != field) {
+            lastValues = find();
+            lastField = field;
+        }
+        return lastValues;
+    }
+
+    /**
+     * The sub-message at \a index of the \a count ones of \a field; the same whenever it is asked
+     * for. Made of what \a read returns.
      */
-    const ProtobufMessage *getPart(const google::protobuf::Message &part,
-                                   const MessageInfo *info,
-                                   bool confidential) const;
+    template <typename Read>
+    const ProtobufMessage *
+    getPart(const FieldInfo *field, unsigned int index, unsigned int count, Read &&read) const
+    {
+        const ProtobufMessage *&part = findParts(field, count)[index];
+        if (part == nullptr)
+            part = makePart(field, read());
+        return part;
+    }
+
     /**
      * The entry of a map that is the \a index-th one by its key. Maps have no order of their own;
      * this way an entry keeps its place from message to message.
@@ -85,27 +135,35 @@ public:
     const google::protobuf::Message *resolveAny(const google::protobuf::Message &any) const;
 
 private:
+    /** The sub-messages of one field that were asked for, the others null; in the arena. */
+    struct Parts
+    {
+        const FieldInfo *field;
+        const ProtobufMessage **messages;
+        Parts *next;
+    };
+
     ProtobufMessage(const MessageInfo *info,
                     std::unique_ptr<ProtobufContent> content,
                     const google::protobuf::Message &message,
                     qint64 timeUs,
                     bool confidential);
     ProtobufMessage(const MessageInfo *info,
-                    const ProtobufMessage *mainMessage,
+                    const ProtobufMessage *owner,
                     const google::protobuf::Message &message,
                     bool confidential);
-    ~ProtobufMessage() override;
 
-    const google::protobuf::Message &message; ///< In the content of the main message.
-    const ProtobufMessage *mainMessage; ///< Not owned; this one itself for a main message.
-    std::unique_ptr<ProtobufContent> content; ///< Null in a sub-message.
+    const ProtobufMessage **findParts(const FieldInfo *field, unsigned int count) const;
+    const ProtobufMessage *makePart(const FieldInfo *field,
+                                    const google::protobuf::Message &part) const;
 
-    // Of a main message alone; what is in them is owned.
-    using Key = const google::protobuf::Message *;
-    mutable QHash<Key, const ProtobufMessage *> parts;
-    mutable QHash<Key, const google::protobuf::Message *> resolved; ///< In the arena, or null.
-    using Place = std::pair<Key, const google::protobuf::FieldDescriptor *>;
-    mutable QHash<Place, std::vector<Key>> maps; ///< Entries in the order of their keys.
+    const google::protobuf::Message &message; ///< In the content.
+    const google::protobuf::Reflection &reflection;
+    std::unique_ptr<ProtobufContent> owned; ///< Null in a sub-message.
+    ProtobufContent *content; ///< That of the main message.
+    mutable Parts *parts = nullptr; ///< In the arena.
+    mutable const FieldInfo *lastField = nullptr;
+    mutable Values lastValues; ///< Of lastField.
 };
 
 } // namespace corvane

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void unknownNumber_ofOpenEnumeration_isShown();
     void recursion_endsWithAText();
     void subMessage_isMadeOnceAndKeepsTheMessage();
+    void values_inAnyOrder_areTheSame();
     void any_isResolvedWhenItsTypeIsKnown();
     void any_ofAnotherShape_isAnOrdinaryMessage();
     void confidential_hidesPartsAtEveryDepth();
@@ -255,6 +256,40 @@ void tst_ProtobufFields::subMessage_isMadeOnceAndKeepsTheMessage()
     QCOMPARE(part->getReferenceCount(), 1);
     QCOMPARE(textForm(part).join(QLatin1Char(' ')), QStringLiteral("id: 2 string_field: \"kept\""));
     part->removeReference();
+}
+
+void tst_ProtobufFields::values_inAnyOrder_areTheSame()
+{
+    ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
+    const QByteArray bytes = definitions.encode(QStringLiteral(
+        "id: 1 packed: [1, 2, 3] doubles: [0.5, 1.5] strings: 'a' strings: 'b' "
+        "colors: [RED, GREEN] parts { value: 1 } parts { value: 2 } parts { value: 3 } "
+        "parts_by_number { key: 7 value { value: 8 } } parts_by_number { key: 2 } "));
+    const DecodedProtobuf inOrder(definitions.getFormat(), bytes);
+    const DecodedProtobuf message(definitions.getFormat(), bytes);
+    const QList<const FieldInfo *> fields = message.get()->getInfo()->getFieldInfos();
+    const auto textAt = [](const FieldInfo *field, const Message *of, unsigned int index) {
+        const Message *part = field->getValue(of, index).getSubMessage();
+        return part != nullptr ? textForm(part).join(QLatin1Char(' '))
+                               : field->getValueText(of, index, true);
+    };
+
+    QHash<const FieldInfo *, QStringList> expected;
+    for (const FieldInfo *field : fields)
+        for (unsigned int index = 0; index < field->getNumberOfValues(inOrder.get()); ++index)
+            expected[field].append(textAt(field, inOrder.get(), index));
+    QHash<const FieldInfo *, QStringList> crosswise;
+    for (unsigned int index = 0; index < 3; ++index)
+        for (const FieldInfo *field : fields)
+            if (field->getValue(message.get(), index).isValid())
+                crosswise[field].append(textAt(field, message.get(), index));
+    QCOMPARE(crosswise, expected);
+
+    const FieldInfo *parts
+        = definitions.findField(QStringLiteral("Every"), QStringLiteral("parts"));
+    QVERIFY(parts->getValue(message.get(), 0).getSubMessage()
+            != parts->getValue(message.get(), 1).getSubMessage());
+    QCOMPARE(expected.value(parts), QStringList({"value: 1", "value: 2", "value: 3"}));
 }
 
 void tst_ProtobufFields::any_isResolvedWhenItsTypeIsKnown()
