@@ -1,9 +1,9 @@
 #include "eventlogpanel.h"
 
-#include "eventlog.h"
 #include "eventlogtablewidget.h"
 
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -45,7 +45,7 @@ public:
 
 EventLogPanel::EventLogPanel(EventLog &log, QWidget *parent)
     : QWidget(parent)
-    , table(new EventLogTableWidget(&log, this))
+    , table(new EventLogTableWidget(nullptr, this))
     , timeDelegate(new LogTimeDelegate(this))
     , filterEdit(new QLineEdit(this))
     , followButton(new QToolButton(this))
@@ -70,13 +70,13 @@ EventLogPanel::EventLogPanel(EventLog &log, QWidget *parent)
 
     connect(filterEdit, &QLineEdit::textChanged, this, &EventLogPanel::setFilter);
     connect(followButton, &QToolButton::clicked, this, &EventLogPanel::followEnd);
-    connect(&log, &EventLog::newEntry, this, &EventLogPanel::filterNewRowsSoon);
-    connect(&log, &EventLog::cleared, this, [this] {
-        shownRows = 0;
-        filteredRows = 0;
-        filterNewRowsSoon();
-    });
-    setFilter({});
+    connect(&log, &EventLog::newEntry, this,
+            [this](const EventLog::Entry &entry) { takeEntries({entry}); });
+    connect(&log, &EventLog::cleared, this, &EventLogPanel::startAgain);
+    sliceTimer.setSingleShot(true);
+    connect(&sliceTimer, &QTimer::timeout, this, &EventLogPanel::runSlice);
+    takeEntries(log.getEntries());
+    refreshState();
 }
 
 EventLogPanel::~EventLogPanel()
@@ -134,26 +134,42 @@ void EventLogPanel::setFilter(const QString &text)
     filter = text;
     shownRows = 0;
     filteredRows = 0;
-    filterNewRows();
+    sliceTimer.start();
 }
 
-/** Many rows together, since hiding one right behind its insertion takes a look at all rows. */
-void EventLogPanel::filterNewRowsSoon()
+void EventLogPanel::takeEntries(const QList<EventLog::Entry> &entries)
 {
-    if (isFilteringPosted)
-        return;
-    isFilteringPosted = true;
-    QMetaObject::invokeMethod(this, &EventLogPanel::filterNewRows, Qt::QueuedConnection);
+    waiting += entries;
+    if (!sliceTimer.isActive())
+        sliceTimer.start();
 }
 
-void EventLogPanel::filterNewRows()
+void EventLogPanel::startAgain()
 {
-    isFilteringPosted = false;
+    waiting.clear();
+    taken = 0;
+    shownRows = 0;
+    filteredRows = 0;
+    table->clear();
+    sliceTimer.start();
+}
+
+void EventLogPanel::runSlice()
+{
+    const QDeadlineTimer deadline(sliceMs, Qt::PreciseTimer);
     table->setUpdatesEnabled(false); // else the table looks for the place of each hidden row
-    for (; filteredRows < table->rowCount(); ++filteredRows)
-        filterRow(filteredRows);
+    while (taken < waiting.size() && !deadline.hasExpired())
+        table->addEntry(waiting.at(taken++));
+    while (filteredRows < table->rowCount() && !deadline.hasExpired())
+        filterRow(filteredRows++);
     table->setUpdatesEnabled(true);
+    if (taken == waiting.size()) {
+        waiting.clear();
+        taken = 0;
+    }
     refreshState();
+    if (!waiting.isEmpty() || filteredRows < table->rowCount())
+        sliceTimer.start();
 }
 
 void EventLogPanel::filterRow(int row)

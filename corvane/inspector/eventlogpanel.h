@@ -1,8 +1,10 @@
 #pragma once
 
+#include "eventlog.h"
+
+#include <QTimer>
 #include <QWidget>
 
-class EventLog;
 class EventLogTableWidget;
 class QLabel;
 class QLineEdit;
@@ -15,6 +17,8 @@ class LogTimeDelegate;
 /**
  * The event log, which follows its end until people scroll back and again once they scroll to the
  * end; only the entries with a text in them, if one is typed.
+ *
+ * Entries enter the table in slices, since thousands may come at once and each is a row.
  */
 class EventLogPanel : public QWidget
 {
@@ -36,11 +40,14 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    static constexpr int sliceMs = 8;
+
     void createTable();
+    void takeEntries(const QList<EventLog::Entry> &entries);
+    void startAgain();
+    void runSlice();
     void fitRowHeight();
     void filterRow(int row);
-    void filterNewRows();
-    void filterNewRowsSoon();
     void followEnd();
     void refreshState();
 
@@ -52,7 +59,9 @@ private:
     QString filter;
     int shownRows = 0;
     int filteredRows = 0; ///< So many rows from the top are shown or hidden as they should be.
-    bool isFilteringPosted = false;
+    QList<EventLog::Entry> waiting; ///< To become rows.
+    qsizetype taken = 0; ///< So many of them are rows already.
+    QTimer sliceTimer;
     bool following = true;
 };
 

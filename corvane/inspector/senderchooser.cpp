@@ -20,9 +20,13 @@ SenderChooser::SenderChooser(const SenderTable &senders, QWidget *parent)
 
 void SenderChooser::refresh()
 {
-    const auto &all = senders.getAll();
-    for (size_t i = static_cast<size_t>(count()) - 1; i < all.size(); ++i)
-        addItem(tr("Only sender %1").arg(all[i]->id), all[i]->number);
+    for (const auto &sender : senders.getAll()) {
+        // One that only damaged frames name has sent nothing to be shown.
+        if (sender->frames == 0 || offered.contains(sender->number))
+            continue;
+        offered.insert(sender->number);
+        addItem(tr("Only sender %1").arg(sender->id), sender->number);
+    }
     const QString text = tr("All %1 senders: the last one wins").arg(count() - 1);
     if (itemText(0) != text)
         setItemText(0, text);

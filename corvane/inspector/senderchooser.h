@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QSet>
 
 #include <optional>
 
@@ -28,6 +29,7 @@ Q_SIGNALS:
 
 private:
     const SenderTable &senders;
+    QSet<quint32> offered; ///< The numbers of those that can be chosen.
 };
 
 } // namespace corvane

@@ -1,6 +1,7 @@
 #include "workbench.h"
 
 #include "crashtrace.h"
+#include "eventlog.h"
 #include "mainwindow.h"
 #include "openpanel.h"
 #include "session.h"
@@ -52,8 +53,7 @@ void Workbench::createWindow(const Options &newOptions)
             [this] { window->showState(tr("End of %1").arg(session->getSourceName())); });
     connect(session.get(), &Session::failed, window.get(), &MainWindow::showState);
     connect(session.get(), &Session::stateChanged, window.get(), &MainWindow::showState);
-    connect(session->getReception().getEventLog(), &EventLog::newEntry, window.get(),
-            [](const EventLog::Entry &entry) { addTraceLine(entry.event.getMessage()); });
+    traceEvents(*session->getReception().getEventLog());
     connect(window.get(), &MainWindow::openRequested, this, &Workbench::showOpenPanel);
     connect(window.get(), &MainWindow::filesDropped, this, &Workbench::takeFiles,
             Qt::QueuedConnection);
@@ -64,6 +64,20 @@ void Workbench::createWindow(const Options &newOptions)
     openPanel->setChoice(SourceChoice::of(newOptions));
     window->show();
     openPanel->hide();
+}
+
+void Workbench::traceEvents(EventLog &log)
+{
+    repeatedEvents = 0;
+    // A full log tells its followers once more of the entries that it keeps.
+    connect(&log, &EventLog::cleared, this,
+            [this, &log] { repeatedEvents = log.getEntries().size(); });
+    connect(&log, &EventLog::newEntry, this, [this](const EventLog::Entry &entry) {
+        if (repeatedEvents > 0)
+            --repeatedEvents;
+        else
+            addTraceLine(entry.event.getMessage());
+    });
 }
 
 void Workbench::openChosen(const SourceChoice &choice)

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class EventLog;
 class QSettings;
 class QWidget;
 
@@ -43,12 +44,14 @@ private:
     void openChosen(const SourceChoice &choice);
     void takeFiles(const QStringList &files);
     void createWindow(const Options &options);
+    void traceEvents(EventLog &log);
 
     PlainToolTips plainToolTips;
     Options options;
     QSettings &settings;
     std::unique_ptr<OpenPanel> openPanel;
     std::unique_ptr<Session> session;
+    qsizetype repeatedEvents = 0; ///< So many events of the log come that were traced before.
     std::unique_ptr<MainWindow> window; ///< Null while no source is open. Gone before the session.
 };
 

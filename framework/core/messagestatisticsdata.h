@@ -84,7 +84,7 @@ public:
     }
 
     /** So many ids without description have statistics of their own; further ones share one. */
-    static constexpr qsizetype maximumUnknownNumbers = 4096;
+    static constexpr qsizetype maximumUnknownNumbers = 256;
 
     /** The statistics of a message id without description; made at first sight. */
     MessageStatisticsData &getFor(const FormatInfo *format, quint32 unknownNumber);

@@ -85,7 +85,8 @@ void Reception::receiveDamagedFrame(const FrameHeader &frame, const QString &rea
 {
     if (totals.crcErrors)
         ++*totals.crcErrors;
-    senders.get(frame.senderId).countCrcError(frame.messageInfo);
+    if (SenderStatistics *sender = senders.getDoubtful(frame.senderId))
+        sender->countCrcError(frame.messageInfo);
     ++statistics.getData()->getFor(frame.messageInfo).crcErrors;
     noteEvent({CorvaneEvent::CrcError, subjectOf(frame)}, frame.timeUs, [&] {
         const QString subject = tr("CRC error: %1").arg(describe(frame));

@@ -65,6 +65,15 @@ SenderStatistics &SenderTable::get(quint32 senderId)
     return *entry;
 }
 
+SenderStatistics *SenderTable::getDoubtful(quint32 senderId)
+{
+    SenderStatistics *known = find(senderId);
+    if (known != nullptr || doubtfulCount >= maximumDoubtful)
+        return known;
+    ++doubtfulCount;
+    return &get(senderId);
+}
+
 SenderStatistics *SenderTable::find(quint32 senderId) const
 {
     return byId.value(senderId);

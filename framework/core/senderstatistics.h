@@ -48,8 +48,16 @@ public:
     /** \a namer gives the id that people read; \a lastNumber: as for SenderStatistics. */
     explicit SenderTable(Namer namer, quint32 lastNumber = 0xFF);
 
+    /**
+     * So many senders are made at the sight of damaged frames alone: most of them do not exist, and
+     * noise would name ever more.
+     */
+    static constexpr int maximumDoubtful = 16;
+
     /** The sender of that id; made at first sight. */
     SenderStatistics &get(quint32 senderId);
+    /** The sender that a damaged frame names; null where it is not known and too many were made. */
+    SenderStatistics *getDoubtful(quint32 senderId);
     /** The sender of that id, or null where it has not been seen. */
     SenderStatistics *find(quint32 senderId) const;
 
@@ -65,6 +73,7 @@ private:
     quint32 lastNumber;
     std::vector<std::unique_ptr<SenderStatistics>> all;
     QHash<quint32, SenderStatistics *> byId;
+    int doubtfulCount = 0;
     quint32 latestId = 0;
     SenderStatistics *latest = nullptr; ///< Not owned; neighbouring frames often share a sender.
 };

@@ -70,10 +70,13 @@ void tst_senderchooser::oneSender_isNoChoice()
     SenderTable table([](quint32 id) { return QString::number(id); });
     SenderChooser chooser(table);
     QVERIFY(!chooser.hasChoice());
-    table.get(5);
+    table.get(5).receive(0);
     chooser.refresh();
     QVERIFY(!chooser.hasChoice());
-    table.get(6);
+    table.getDoubtful(7)->countCrcError(nullptr);
+    chooser.refresh();
+    QVERIFY(!chooser.hasChoice());
+    table.get(6).receive(0);
     chooser.refresh();
     QVERIFY(chooser.hasChoice());
     QCOMPARE(chooser.itemText(0), QStringLiteral("All 2 senders: the last one wins"));
