@@ -58,6 +58,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t count)
     host.initialise({.additionalInfoSize = additionalInfoSize});
     for (; next + 1 < texts.size(); next += 2) {
         const QByteArray &name = texts.at(next);
+        dbg_SubModActive(name.constData(), texts.at(next + 1).constData());
+        dbg_DumpInfo(texts.at(next + 1).constData(), DbgLevelError);
+        host.takeLines(); // of which one is as long as its text
         const unsigned choice = name.isEmpty() ? 0 : static_cast<unsigned char>(name.back());
         trace(choice, 1 << (choice >> 3 & 7), name.constData(), texts.at(next + 1).constData());
         checkLines(host, additionalInfoSize);

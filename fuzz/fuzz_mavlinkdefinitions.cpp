@@ -60,7 +60,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t count)
         return 0;
     }
     const size_t loaded = messages.size();
-    require(format.load(file).isOk() && messages.size() == loaded, "a file can be loaded again");
+    require(format.loadFiles({file}).isOk() && messages.size() == loaded,
+            "a file can be loaded again");
     readMessages(format);
     return 0;
 }

@@ -1,9 +1,12 @@
 // Reads the input as an overlay and then messages with what it added. With errors nothing may have
-// changed; an overlay that loads must load again.
+// changed; an overlay that loads must load again, also from a file.
 
 #include "fuzzchecks.h"
 #include "fuzzinput.h"
 #include "overlaytestformat.h"
+
+#include <QFile>
+#include <QTemporaryDir>
 
 using namespace corvane;
 using namespace corvane::fuzz;
@@ -18,6 +21,16 @@ constexpr const char *literals[] = {
     R"(Position{lat: nan, lon: inf, height: -2147483648, mode: 99, status: 65535,
                 time: 18446744073709551615, secret: -inf, sats: []})",
 };
+
+QString write(const QByteArray &text)
+{
+    static const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("fuzz.json")));
+    require(file.open(QIODevice::WriteOnly) && file.write(text) == text.size(), "it is written");
+    require(!loadOverlay(folder.path()).isOk(), "a folder is no overlay");
+    require(!loadOverlay(folder.filePath(QStringLiteral("none"))).isOk(), "nothing is no overlay");
+    return file.fileName();
+}
 
 } // namespace
 
@@ -36,8 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t count)
     }
     for (const char *literal : literals)
         readAll(format.message(QString::fromLatin1(literal)));
-    requireEqual(loadOverlayText(text, name, {format.getInfo()}).toString(), QString(),
-                 "an overlay can be loaded again");
+    requireEqual(loadOverlay(write(text)).toString(), QString(), "an overlay can be loaded again");
     requireEqual(format.described(), described, "loading again changes nothing");
     return 0;
 }

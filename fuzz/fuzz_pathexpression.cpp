@@ -1,8 +1,9 @@
-// Reads the input as steps of a path expression over the definitions of the example recording. The
-// path of each field that it matches must lead back to that field.
+// Reads the input as steps of a path expression over the definitions of the example recording and
+// types with odd names. The path of each type and field that it matches must lead back to it.
 
 #include "mavlinkformat.h"
 #include "pathexpression.h"
+#include "testformat.h"
 
 #include <QStringList>
 
@@ -20,6 +21,18 @@ const corvane::MavlinkFormat &format()
             std::abort();
         return made;
     }();
+    static const corvane::test::TestFormat odd(QStringLiteral("Odd \"names\""), QStringLiteral(R"(
+        "Type 10"
+          x2      uint8
+          x010    uint8
+          x10     uint8
+          "a.b"   int16 {Low=1, High=2}
+          parts   "Part \\ of *"[]
+        "Part \\ of *" part
+          "x y"   double
+          "\"q\"" uint16
+            low   bits 0..3
+    )"));
     return *loaded;
 }
 
@@ -47,10 +60,17 @@ void checkMatches(const PathExpression &expression)
 {
     PathExpression setUp;
     PathExpression readBack;
+    readBack.setConsiderSubMessages(true);
     for (const FieldInfo *field : expression.getMatchingFieldInfos()) {
         setUp.setupToMatchUnique(field);
         readBack.setString(setUp.getString(PathExpression::AllParts));
         if (readBack.getMatchingFieldInfos() != QList<const FieldInfo *>{field})
+            std::abort();
+    }
+    for (const MessageInfo *message : expression.getMatchingMessageInfos()) {
+        setUp.setupToMatchUnique(message);
+        readBack.setString(setUp.getString(PathExpression::AllParts));
+        if (readBack.getMatchingMessageInfos() != QList<const MessageInfo *>{message})
             std::abort();
     }
 }
@@ -65,7 +85,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t count)
     for (const QByteArray &step : input.split('\n')) {
         doStep(expression, step.isEmpty() ? 0 : static_cast<unsigned char>(step.at(0)),
                QString::fromUtf8(step.mid(1)));
-        expression.getMatchingExpressionsStringList(PathExpression::AllParts);
+        for (const PathExpression::Parts parts :
+             {PathExpression::Parts(PathExpression::AllParts),
+              PathExpression::FormatPart | PathExpression::MessagePart})
+        {
+            expression.getMatchingExpressionsStringList(parts);
+            expression.isWildCard(parts);
+        }
     }
     checkMatches(expression);
     return 0;

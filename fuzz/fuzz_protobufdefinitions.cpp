@@ -1,5 +1,6 @@
 // Reads the input as definitions, text or a descriptor set, and messages of what they describe. Up
 // to two more files of text ("a.proto", "b.proto") can be imported; zero bytes stand between them.
+// On demand the type of the stream is named, or a descriptor set is taken as it stands in a file.
 
 #include "descriptions.h"
 #include "fuzzchecks.h"
@@ -8,6 +9,7 @@
 #include "messageinfo.h"
 #include "messageprinter.h"
 #include "protobufmessages.h"
+#include "protobufschema.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -26,9 +28,9 @@ QString write(const QString &name, const QByteArray &content)
     return file.fileName();
 }
 
-QString writeDefinitions(Input &input)
+QString writeDefinitions(Input &input, bool isSet)
 {
-    if ((input.takeByte() & 1) != 0)
+    if (isSet)
         return write(QStringLiteral("main.desc"), input.takeRest());
     const QList<QByteArray> texts = input.takeTexts();
     write(QStringLiteral("a.proto"), texts.value(1));
@@ -58,8 +60,17 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t count)
 {
     makeApplication();
     Input input(bytes, count);
-    ProtobufFormat format;
-    const auto result = format.loadFiles({writeDefinitions(input)});
+    const unsigned options = input.takeByte();
+    const bool isSet = (options & 1) != 0;
+    ProtobufFormat format((options & 2) != 0 ? QStringLiteral("test.Every") : QString());
+    const QString file = writeDefinitions(input, isSet);
+    const auto result = format.loadFiles({file});
+    if (isSet) {
+        QFile written(file);
+        require(written.open(QIODevice::ReadOnly), "the file can be read");
+        const auto parsed = ProtobufSchema::parse(written.readAll(), file);
+        require(parsed.schema != nullptr || !result.isOk(), "what a file may say, bytes may");
+    }
     if (result.isOk())
         readMessages(format);
     else
