@@ -90,6 +90,7 @@ private:
         qint64 lastUs = 0;
     };
 
+    void reserve();
     void addToBlocks(size_t index);
     void push(const Sample &sample);
     void insertLate(const Sample &sample);
