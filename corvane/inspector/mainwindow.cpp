@@ -314,6 +314,8 @@ void MainWindow::restoreLayout()
     tree->restoreSettings(settings);
     watch->restoreSettings(settings);
     statistics->restoreSettings(settings);
+    events->restoreSettings(settings);
+    senders->restoreSettings(settings);
     if (plot != nullptr)
         plot->restoreSettings(settings);
 }
@@ -327,6 +329,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     tree->saveSettings(settings);
     watch->saveSettings(settings);
     statistics->saveSettings(settings);
+    events->saveSettings(settings);
+    senders->saveSettings(settings);
     if (plot != nullptr)
         plot->saveSettings(settings);
     SettingsFile::seal(settings);

@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QSettings>
@@ -56,6 +57,7 @@ private Q_SLOTS:
     void exportedStatistics_areToldAboveTheViews();
     void transportBar_isThereForRecordingsOnly();
     void layout_isRememberedByTheSettings();
+    void columns_areRemembered();
     void layout_atFirst_showsTheForm();
     void layout_ofRandomBytes_startsWithTheDefault();
 };
@@ -314,6 +316,29 @@ void tst_mainwindow::layout_isRememberedByTheSettings()
     QVERIFY(!next.findChild<QDockWidget *>(QStringLiteral("form"))->isVisible());
     QVERIFY(next.findChild<QDockWidget *>(QStringLiteral("types"))->isVisible());
     QCOMPARE(next.size(), QSize(700, 560));
+}
+
+void tst_mainwindow::columns_areRemembered()
+{
+    ShownWindow shown;
+    const auto headerOf = [&shown](const char *dock) {
+        const auto *panel = shown.window->findChild<QDockWidget *>(QLatin1String(dock));
+        for (QHeaderView *header : panel->findChildren<QHeaderView *>())
+            if (header->orientation() == Qt::Horizontal)
+                return header;
+        return static_cast<QHeaderView *>(nullptr);
+    };
+    headerOf("watch")->resizeSection(0, 123);
+    headerOf("watch")->moveSection(2, 1);
+    headerOf("events")->resizeSection(0, 77);
+    headerOf("senders")->setSortIndicator(3, Qt::DescendingOrder);
+    shown.window->close();
+    shown.window = std::make_unique<MainWindow>(shown.session, shown.settings);
+    QCOMPARE(headerOf("watch")->sectionSize(0), 123);
+    QCOMPARE(headerOf("watch")->visualIndex(2), 1);
+    QCOMPARE(headerOf("events")->sectionSize(0), 77);
+    QCOMPARE(headerOf("senders")->sortIndicatorSection(), 3);
+    QCOMPARE(headerOf("senders")->sortIndicatorOrder(), Qt::DescendingOrder);
 }
 
 void tst_mainwindow::layout_atFirst_showsTheForm()
