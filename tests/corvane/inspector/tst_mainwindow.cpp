@@ -37,6 +37,7 @@ class tst_mainwindow : public TestCase
 
 private Q_SLOTS:
     void withoutSource_saysHowToOpenOne();
+    void nothingDecoded_saysWhatHappened();
     void firstMessage_isChosenAndShown();
     void firstStart_hasTheFormInFront();
     void types_areListedWithTheirCounts();
@@ -73,6 +74,32 @@ void tst_mainwindow::withoutSource_saysHowToOpenOne()
         return label->text().contains(QStringLiteral("No source is open"));
     });
     QVERIFY(explained);
+}
+
+void tst_mainwindow::nothingDecoded_saysWhatHappened()
+{
+    ShownWindow shown;
+    const auto readFile = [&shown](const QByteArray &content) {
+        QFile file(shown.folder.filePath(QStringLiteral("file.tlog")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        Session session;
+        shown.options.source = SourceAddress::parse(file.fileName()).address;
+        session.load(shown.options);
+        shown.window = std::make_unique<MainWindow>(session, shown.settings);
+        QVERIFY(!shown.says(QStringLiteral("has ended")));
+        session.start(shown.options);
+        QTRY_VERIFY(shown.says(QStringLiteral("file.tlog has ended.")));
+        QVERIFY(!shown.says(QStringLiteral("No source is open")));
+        QVERIFY(!shown.says(QStringLiteral("Waiting for messages")));
+        QCOMPARE(shown.says(QStringLiteral("No bytes have come.")), content.isEmpty());
+        QCOMPARE(shown.says(QStringLiteral("None of its 9 bytes could be decoded")),
+                 !content.isEmpty());
+        shown.window.reset();
+    };
+    readFile("no frames");
+    readFile({});
 }
 
 void tst_mainwindow::firstMessage_isChosenAndShown()
