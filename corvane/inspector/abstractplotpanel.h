@@ -28,6 +28,8 @@ public:
     virtual void setSender(std::optional<quint32> sender) = 0;
     /** Shows times in UTC, else in the time zone of this machine. */
     virtual void setUtc(bool utc) = 0;
+    /** What the samples of all lines take of memory, which is bounded for each line. */
+    virtual qint64 getSampleBytes() const = 0;
     virtual void saveSettings(QSettings &settings) const = 0;
     virtual void restoreSettings(QSettings &settings) = 0;
 };

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QScrollBar>
+#include <QSettings>
 #include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -21,6 +22,11 @@ namespace {
 
 constexpr int timeColumn = 0;
 constexpr int messageColumn = 1;
+
+QString columnsKey()
+{
+    return QStringLiteral("events/headerstate");
+}
 
 } // namespace
 
@@ -99,6 +105,7 @@ void EventLogPanel::createTable()
     table->setItemDelegateForColumn(timeColumn, timeDelegate);
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setSectionsMovable(true);
     table->setColumnWidth(timeColumn, fontMetrics().averageCharWidth() * 24);
     QScrollBar *bar = table->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
@@ -127,6 +134,16 @@ void EventLogPanel::setUtc(bool utc)
 {
     timeDelegate->utc = utc;
     table->viewport()->update();
+}
+
+void EventLogPanel::saveSettings(QSettings &settings) const
+{
+    settings.setValue(columnsKey(), table->horizontalHeader()->saveState());
+}
+
+void EventLogPanel::restoreSettings(const QSettings &settings)
+{
+    table->horizontalHeader()->restoreState(settings.value(columnsKey()).toByteArray());
 }
 
 void EventLogPanel::setFilter(const QString &text)

@@ -8,6 +8,7 @@
 class EventLogTableWidget;
 class QLabel;
 class QLineEdit;
+class QSettings;
 class QToolButton;
 
 namespace corvane {
@@ -35,6 +36,9 @@ public:
     void setUtc(bool utc);
 
     bool isFollowing() const { return following; }
+
+    void saveSettings(QSettings &settings) const;
+    void restoreSettings(const QSettings &settings);
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -162,7 +162,7 @@ void ExportDialog::createLayout(const QString &hint)
 QLayout *ExportDialog::createListButtons()
 {
     auto *all = new QPushButton(tr("Choose &All"), this);
-    auto *none = new QPushButton(tr("Choose N&one"), this);
+    auto *none = new QPushButton(tr("C&hoose None"), this);
     for (QPushButton *button : {all, none}) {
         button->setAutoDefault(false);
         button->setToolTip(tr("Of what the list shows"));

@@ -36,6 +36,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
@@ -314,6 +315,8 @@ void MainWindow::restoreLayout()
     tree->restoreSettings(settings);
     watch->restoreSettings(settings);
     statistics->restoreSettings(settings);
+    events->restoreSettings(settings);
+    senders->restoreSettings(settings);
     if (plot != nullptr)
         plot->restoreSettings(settings);
 }
@@ -327,6 +330,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     tree->saveSettings(settings);
     watch->saveSettings(settings);
     statistics->saveSettings(settings);
+    events->saveSettings(settings);
+    senders->saveSettings(settings);
     if (plot != nullptr)
         plot->saveSettings(settings);
     SettingsFile::seal(settings);
@@ -358,13 +363,18 @@ void MainWindow::connectAll()
     connect(latest, &LatestMessages::typeSeen, this, &MainWindow::chooseFirstType);
     connect(typeView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &MainWindow::showChosenType);
-    connect(&session, &Session::playbackChanged, this,
-            [this] { transport->setPlayback(this->session.getPlayback()); });
+    connect(&session, &Session::playbackChanged, this, [this] {
+        sourceEnd.clear();
+        transport->setPlayback(this->session.getPlayback());
+    });
     transport->setPlayback(session.getPlayback());
     connect(tree, &MessageTreePanel::typeChosen, this, &MainWindow::chooseType);
     connect(senders, &SendersPanel::senderChosen, senderChooser, &SenderChooser::choose);
     connect(senderChooser, &SenderChooser::chosen, this, &MainWindow::chooseSender);
     connectRowActions();
+    connect(&session, &Session::finished, this,
+            [this] { setSourceEnd(tr("%1 has ended.").arg(this->session.getSourceName())); });
+    connect(&session, &Session::failed, this, &MainWindow::setSourceEnd);
     connect(pauseAction, &QAction::toggled, this, &MainWindow::setPaused);
     connect(&countsTimer, &QTimer::timeout, this, &MainWindow::refreshCounts);
     connect(viewSettings, &ViewSettings::changed, this, &MainWindow::applyViewSettings);
@@ -467,15 +477,32 @@ QString MainWindow::getPlaceholderText() const
     if (types->rowCount() > 0)
         return tr("No definition describes this message. Load the definitions of its dialect with "
                   "--definitions FILE.");
-    return session.getSourceName().isEmpty()
-               ? tr("No source is open. Start the inspector with a source: corvane-inspector "
-                    "--definitions FILE SOURCE. The option --help lists the kinds of sources.")
-               : tr("Waiting for messages from %1.").arg(session.getSourceName());
+    if (session.getSourceName().isEmpty())
+        return tr("No source is open. Choose one with \"Open…\" in the menu \"File\".");
+    const quint64 bytes = session.getReception().getTotals().bytes;
+    if (!sourceEnd.isEmpty())
+        return bytes == 0 ? tr("%1 No bytes have come.").arg(sourceEnd)
+                          : tr("%1 None of its %2 bytes could be decoded: they are no messages of "
+                               "this format, or in another framing.")
+                                .arg(sourceEnd, QLocale().toString(bytes));
+    const QString waiting = tr("Waiting for messages from %1.").arg(session.getSourceName());
+    return bytes == 0
+               ? waiting
+               : tr("%1 %2 bytes have come, but no message of the loaded definitions among them.")
+                     .arg(waiting, QLocale().toString(bytes));
+}
+
+void MainWindow::setSourceEnd(const QString &text)
+{
+    sourceEnd = text;
+    showChosenType();
 }
 
 void MainWindow::refreshCounts()
 {
     types->refresh();
+    if (types->rowCount() == 0)
+        showChosenType(); // which tells how many bytes have come
     if (!latest->isPaused()) {
         statistics->refresh();
         senders->refresh();

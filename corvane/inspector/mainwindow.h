@@ -93,6 +93,7 @@ private:
     void showVersions();
     void refreshCounts();
     QString getPlaceholderText() const;
+    void setSourceEnd(const QString &text);
 
     Session &session;
     QSettings &settings;
@@ -124,6 +125,7 @@ private:
     QAction *pauseAction = nullptr; ///< Owned as a child.
     ElidingLabel *stateLabel = nullptr; ///< Owned as a child.
     StatusFigures *figures = nullptr; ///< Owned as a child.
+    QString sourceEnd; ///< How the source has ended; empty while it has not.
     QTimer countsTimer;
 };
 

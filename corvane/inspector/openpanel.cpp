@@ -201,9 +201,9 @@ QWidget *OpenPanel::createForm()
     addRow(tr("&Address"), address, 1);
     layout->addWidget(browse, row - 1, 2);
     addRow(tr("&Definitions"), definitions);
-    addRow(tr("O&verlays"), overlays);
-    addRow(tr("&Framing"), framing);
-    addRow(tr("Root &type"), root);
+    addRow(tr("Overla&ys"), overlays);
+    addRow(tr("Frami&ng"), framing);
+    addRow(tr("Root ty&pe"), root);
     layout->addWidget(notice, row++, 0, 1, 3);
     layout->setRowStretch(row++, 1);
     createButtons(*layout, row);

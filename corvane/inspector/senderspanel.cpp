@@ -6,9 +6,19 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QSettings>
 #include <QVBoxLayout>
 
 namespace corvane {
+
+namespace {
+
+QString columnsKey()
+{
+    return QStringLiteral("senders/headerstate");
+}
+
+} // namespace
 
 SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
     : QWidget(parent)
@@ -33,8 +43,7 @@ SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
     tree->header()->setSectionResizeMode(SenderColumn, QHeaderView::Stretch);
     tree->setSortingEnabled(true);
     tree->sortByColumn(SenderColumn, Qt::AscendingOrder);
-    // Without a checksum there are no errors to be found, which is not the same as none found.
-    tree->setColumnHidden(CrcErrorsColumn, !reception.getTotals().crcErrors.has_value());
+    hideErrorsWithoutChecksum();
     tree->setToolTip(tr("Enter or a double click shows the messages of one sender only"));
     connect(tree, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem *item) {
         while (item->parent() != nullptr)
@@ -45,6 +54,23 @@ SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
     layout->setContentsMargins({});
     layout->addWidget(hint);
     layout->addWidget(tree, 1);
+}
+
+/** There are no errors to be found then, which is not the same as none found. */
+void SendersPanel::hideErrorsWithoutChecksum()
+{
+    tree->setColumnHidden(CrcErrorsColumn, !reception.getTotals().crcErrors.has_value());
+}
+
+void SendersPanel::saveSettings(QSettings &settings) const
+{
+    settings.setValue(columnsKey(), tree->header()->saveState());
+}
+
+void SendersPanel::restoreSettings(const QSettings &settings)
+{
+    tree->header()->restoreState(settings.value(columnsKey()).toByteArray());
+    hideErrorsWithoutChecksum(); // the last source may have been of another format
 }
 
 void SendersPanel::showEvent(QShowEvent *event)

@@ -5,6 +5,7 @@
 
 class MessageInfo;
 class QLabel;
+class QSettings;
 class QTreeWidgetItem;
 class SteadyTreeWidget;
 
@@ -24,6 +25,9 @@ public:
 
     /** Does nothing while nobody can see it. */
     void refresh();
+
+    void saveSettings(QSettings &settings) const;
+    void restoreSettings(const QSettings &settings);
 
 Q_SIGNALS:
     /** People want to see the messages of that sender only. */
@@ -48,6 +52,7 @@ private:
         QHash<const MessageInfo *, QTreeWidgetItem *> claimedTypes; ///< The rows below it.
     };
 
+    void hideErrorsWithoutChecksum();
     void refreshRow(const SenderStatistics &sender);
 
     const Reception &reception;

@@ -39,6 +39,11 @@ QString settingsKey()
     return QStringLiteral("watch/paths");
 }
 
+QString columnsKey()
+{
+    return QStringLiteral("watch/headerstate");
+}
+
 /** The paths of the fields that \a expression matches, at most \a maximum. */
 QStringList pathsOf(const PathExpression &expression, qsizetype maximum)
 {
@@ -155,6 +160,7 @@ void WatchPanel::createTable()
     table->verticalHeader()->setMinimumSectionSize(0);
     fitRowHeight();
     table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setSectionsMovable(true);
     table->setColumnWidth(PathColumn, fontMetrics().averageCharWidth() * 36);
     table->setColumnWidth(ValueColumn, fontMetrics().averageCharWidth() * 20);
     auto *remove = new QAction(tr("Stop Watching"), table);
@@ -374,12 +380,14 @@ void WatchPanel::saveSettings(QSettings &settings) const
     for (const Row &row : rows)
         paths.append(row.path);
     settings.setValue(settingsKey(), paths);
+    settings.setValue(columnsKey(), table->horizontalHeader()->saveState());
 }
 
 void WatchPanel::restoreSettings(QSettings &settings)
 {
     for (const QString &path : settings.value(settingsKey()).toStringList())
         add(path);
+    table->horizontalHeader()->restoreState(settings.value(columnsKey()).toByteArray());
     resolve();
     fillTable();
 }

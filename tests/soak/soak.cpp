@@ -1,6 +1,7 @@
 // Runs the inspector's window with all panels open on a source until that ends, and prints a line
-// of figures every few seconds: "seconds kilobytes longest-round-in-microseconds frames", and in
-// the end what was received, as JSON. Usage: soak DEFINITIONS SOURCE WATCHED-PATH...
+// of figures every few seconds: "seconds kilobytes longest-round-in-microseconds frames
+// kilobytes-of-plotted-samples", and in the end what was received, as JSON. Usage: soak DEFINITIONS
+// SOURCE WATCHED-PATH...
 
 #include "abstractplotpanel.h"
 #include "eventroundprobe.h"
@@ -34,6 +35,14 @@ qint64 readKilobytes()
         if (line.startsWith("VmRSS:"))
             return line.mid(6).replace("kB", "").trimmed().toLongLong();
     return -1;
+}
+
+qint64 readPlotKilobytes(const MainWindow &window)
+{
+    for (const QDockWidget *dock : window.findChildren<QDockWidget *>())
+        if (const auto *plot = dynamic_cast<AbstractPlotPanel *>(dock->widget()))
+            return plot->getSampleBytes() / 1024;
+    return 0;
 }
 
 /** Panels that share a place with others become windows of their own, so that all are visible. */
@@ -75,9 +84,9 @@ int main(int argc, char *argv[])
     QElapsedTimer clock;
     clock.start();
     const auto printLine = [&] {
-        std::printf("%.0f %lld %lld %llu\n", static_cast<double>(clock.elapsed()) / 1000,
+        std::printf("%.0f %lld %lld %llu %lld\n", static_cast<double>(clock.elapsed()) / 1000,
                     readKilobytes(), probe.getLongestUs(),
-                    session.getReception().getTotals().frames);
+                    session.getReception().getTotals().frames, readPlotKilobytes(window));
         std::fflush(stdout);
     };
     QTimer timer;

@@ -408,6 +408,14 @@ void PlotPanel::say(const QString &text)
     notice->setVisible(!text.isEmpty());
 }
 
+qint64 PlotPanel::getSampleBytes() const
+{
+    size_t bytes = 0;
+    for (const auto &one : series)
+        bytes += one->getStore().getBytes();
+    return static_cast<qint64>(bytes);
+}
+
 void PlotPanel::saveSettings(QSettings &settings) const
 {
     QStringList paths;

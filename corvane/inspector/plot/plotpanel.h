@@ -41,6 +41,7 @@ public:
     void setPaused(bool paused) override;
     void setSender(std::optional<quint32> newSender) override;
     void setUtc(bool utc) override;
+    qint64 getSampleBytes() const override;
     void saveSettings(QSettings &settings) const override;
     /** Fields that are not known are kept, and plotted once their definitions are loaded. */
     void restoreSettings(QSettings &settings) override;

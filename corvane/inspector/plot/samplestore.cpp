@@ -37,6 +37,8 @@ SampleStore::SampleStore(size_t capacity)
 
 void SampleStore::append(qint64 timeUs, double value)
 {
+    if (samples.capacity() < capacity)
+        reserve();
     const Sample sample{timeUs, std::abs(value) <= largestShown ? value : Sample::gap};
     if (samples.size() >= capacity)
         thinOlderHalf();
@@ -44,6 +46,13 @@ void SampleStore::append(qint64 timeUs, double value)
         insertLate(sample);
     else
         push(sample);
+}
+
+/** Takes all memory at once, or growing would copy megabytes; what is not used costs nothing. */
+void SampleStore::reserve()
+{
+    samples.reserve(capacity);
+    blocks.reserve(capacity / blockSize + 1);
 }
 
 void SampleStore::push(const Sample &sample)

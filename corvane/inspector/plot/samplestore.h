@@ -49,6 +49,12 @@ public:
 
     const std::vector<Sample> &getSamples() const { return samples; }
 
+    /** What it takes of memory. */
+    size_t getBytes() const
+    {
+        return samples.size() * sizeof(Sample) + blocks.size() * sizeof(Block);
+    }
+
     /** The newest sample at or before \a timeUs. */
     std::optional<Sample> getAt(qint64 timeUs) const;
     /** The number of samples before \a timeUs. */
@@ -84,6 +90,7 @@ private:
         qint64 lastUs = 0;
     };
 
+    void reserve();
     void addToBlocks(size_t index);
     void push(const Sample &sample);
     void insertLate(const Sample &sample);

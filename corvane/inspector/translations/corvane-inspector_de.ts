@@ -317,7 +317,7 @@
         <translation>&amp;Alle auswählen</translation>
     </message>
     <message>
-        <source>Choose N&amp;one</source>
+        <source>C&amp;hoose None</source>
         <translation>&amp;Keine auswählen</translation>
     </message>
     <message>
@@ -600,10 +600,6 @@ Protocol Buffers %3</translation>
         <translation>Keine Definition beschreibt diese Nachricht. Laden Sie die Definitionen ihres Dialekts mit --definitions FILE.</translation>
     </message>
     <message>
-        <source>No source is open. Start the inspector with a source: corvane-inspector --definitions FILE SOURCE. The option --help lists the kinds of sources.</source>
-        <translation>Keine Quelle ist geöffnet. Starten Sie den Inspektor mit einer Quelle: corvane-inspector --definitions FILE SOURCE. Die Option --help nennt die Arten von Quellen.</translation>
-    </message>
-    <message>
         <source>Waiting for messages from %1.</source>
         <translation>Warten auf Nachrichten von %1.</translation>
     </message>
@@ -658,6 +654,26 @@ Protocol Buffers %3</translation>
     <message>
         <source>About</source>
         <translation>Über</translation>
+    </message>
+    <message>
+        <source>%1 has ended.</source>
+        <translation>%1 ist zu Ende.</translation>
+    </message>
+    <message>
+        <source>No source is open. Choose one with &quot;Open…&quot; in the menu &quot;File&quot;.</source>
+        <translation>Es ist keine Quelle offen. Wählen Sie eine mit „Öffnen …“ im Menü „Datei“.</translation>
+    </message>
+    <message>
+        <source>%1 No bytes have come.</source>
+        <translation>%1 Es sind keine Bytes gekommen.</translation>
+    </message>
+    <message>
+        <source>%1 None of its %2 bytes could be decoded: they are no messages of this format, or in another framing.</source>
+        <translation>%1 Keines der %2 Bytes konnte dekodiert werden: Es sind keine Nachrichten dieses Formats, oder sie haben eine andere Rahmung.</translation>
+    </message>
+    <message>
+        <source>%1 %2 bytes have come, but no message of the loaded definitions among them.</source>
+        <translation>%1 %2 Bytes sind gekommen, aber darunter keine Nachricht der geladenen Definitionen.</translation>
     </message>
 </context>
 <context>
@@ -925,22 +941,22 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
+        <translation>Adr&amp;esse</translation>
     </message>
     <message>
         <source>&amp;Definitions</source>
-        <translation>&amp;Definitionen</translation>
+        <translation>Def&amp;initionen</translation>
     </message>
     <message>
-        <source>O&amp;verlays</source>
+        <source>Overla&amp;ys</source>
         <translation>O&amp;verlays</translation>
     </message>
     <message>
-        <source>&amp;Framing</source>
+        <source>Frami&amp;ng</source>
         <translation>&amp;Rahmung</translation>
     </message>
     <message>
-        <source>Root &amp;type</source>
+        <source>Root ty&amp;pe</source>
         <translation>&amp;Wurzeltyp</translation>
     </message>
     <message>

@@ -317,7 +317,7 @@
         <translation>Elegir &amp;todo</translation>
     </message>
     <message>
-        <source>Choose N&amp;one</source>
+        <source>C&amp;hoose None</source>
         <translation>No ele&amp;gir nada</translation>
     </message>
     <message>
@@ -600,10 +600,6 @@ Protocol Buffers %3</translation>
         <translation>Ninguna definición describe este mensaje. Cargue las definiciones de su dialecto con --definitions FILE.</translation>
     </message>
     <message>
-        <source>No source is open. Start the inspector with a source: corvane-inspector --definitions FILE SOURCE. The option --help lists the kinds of sources.</source>
-        <translation>Ninguna fuente está abierta. Inicie el inspector con una fuente: corvane-inspector --definitions FILE SOURCE. La opción --help enumera las clases de fuentes.</translation>
-    </message>
-    <message>
         <source>Waiting for messages from %1.</source>
         <translation>Esperando mensajes de %1.</translation>
     </message>
@@ -658,6 +654,26 @@ Protocol Buffers %3</translation>
     <message>
         <source>About</source>
         <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>%1 has ended.</source>
+        <translation>%1 ha terminado.</translation>
+    </message>
+    <message>
+        <source>No source is open. Choose one with &quot;Open…&quot; in the menu &quot;File&quot;.</source>
+        <translation>No hay ninguna fuente abierta. Elija una con «Abrir…» en el menú «Archivo».</translation>
+    </message>
+    <message>
+        <source>%1 No bytes have come.</source>
+        <translation>%1 No ha llegado ningún byte.</translation>
+    </message>
+    <message>
+        <source>%1 None of its %2 bytes could be decoded: they are no messages of this format, or in another framing.</source>
+        <translation>%1 No se pudo decodificar ninguno de sus %2 bytes: no son mensajes de este formato, o tienen otro encuadre.</translation>
+    </message>
+    <message>
+        <source>%1 %2 bytes have come, but no message of the loaded definitions among them.</source>
+        <translation>%1 Han llegado %2 bytes, pero entre ellos ningún mensaje de las definiciones cargadas.</translation>
     </message>
 </context>
 <context>
@@ -865,7 +881,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>&amp;Recent sources</source>
-        <translation>Fuentes &amp;recientes</translation>
+        <translation>Fuentes rec&amp;ientes</translation>
     </message>
     <message>
         <source>Recent sources</source>
@@ -932,20 +948,20 @@ Protocol Buffers %3</translation>
         <translation>Defi&amp;niciones</translation>
     </message>
     <message>
-        <source>O&amp;verlays</source>
+        <source>Overla&amp;ys</source>
         <translation>&amp;Capas añadidas</translation>
     </message>
     <message>
-        <source>&amp;Framing</source>
+        <source>Frami&amp;ng</source>
         <translation>&amp;Encuadre</translation>
     </message>
     <message>
-        <source>Root &amp;type</source>
+        <source>Root ty&amp;pe</source>
         <translation>&amp;Tipo raíz</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation>&amp;Abrir</translation>
+        <translation>A&amp;brir</translation>
     </message>
     <message>
         <source>Browse…</source>

@@ -317,7 +317,7 @@
         <translation>&amp;Tout choisir</translation>
     </message>
     <message>
-        <source>Choose N&amp;one</source>
+        <source>C&amp;hoose None</source>
         <translation>Ne &amp;rien choisir</translation>
     </message>
     <message>
@@ -600,10 +600,6 @@ Protocol Buffers %3</translation>
         <translation>Aucune définition ne décrit ce message. Chargez les définitions de son dialecte avec --definitions FILE.</translation>
     </message>
     <message>
-        <source>No source is open. Start the inspector with a source: corvane-inspector --definitions FILE SOURCE. The option --help lists the kinds of sources.</source>
-        <translation>Aucune source n’est ouverte. Démarrez l’inspecteur avec une source&#xa0;: corvane-inspector --definitions FILE SOURCE. L’option --help énumère les sortes de sources.</translation>
-    </message>
-    <message>
         <source>Waiting for messages from %1.</source>
         <translation>En attente de messages de %1.</translation>
     </message>
@@ -658,6 +654,26 @@ Protocol Buffers %3</translation>
     <message>
         <source>About</source>
         <translation>À propos</translation>
+    </message>
+    <message>
+        <source>%1 has ended.</source>
+        <translation>%1 est terminé.</translation>
+    </message>
+    <message>
+        <source>No source is open. Choose one with &quot;Open…&quot; in the menu &quot;File&quot;.</source>
+        <translation>Aucune source n’est ouverte. Choisissez-en une avec « Ouvrir… » dans le menu « Fichier ».</translation>
+    </message>
+    <message>
+        <source>%1 No bytes have come.</source>
+        <translation>%1 Aucun octet n’est arrivé.</translation>
+    </message>
+    <message>
+        <source>%1 None of its %2 bytes could be decoded: they are no messages of this format, or in another framing.</source>
+        <translation>%1 Aucun de ses %2 octets n’a pu être décodé : ce ne sont pas des messages de ce format, ou leur cadrage est autre.</translation>
+    </message>
+    <message>
+        <source>%1 %2 bytes have come, but no message of the loaded definitions among them.</source>
+        <translation>%1 %2 octets sont arrivés, mais parmi eux aucun message des définitions chargées.</translation>
     </message>
 </context>
 <context>
@@ -865,7 +881,7 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>&amp;Recent sources</source>
-        <translation>Sources &amp;récentes</translation>
+        <translation>Sources réce&amp;ntes</translation>
     </message>
     <message>
         <source>Recent sources</source>
@@ -925,22 +941,22 @@ Protocol Buffers %3</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
+        <translation>Adr&amp;esse</translation>
     </message>
     <message>
         <source>&amp;Definitions</source>
         <translation>&amp;Définitions</translation>
     </message>
     <message>
-        <source>O&amp;verlays</source>
+        <source>Overla&amp;ys</source>
         <translation>S&amp;urcouches</translation>
     </message>
     <message>
-        <source>&amp;Framing</source>
+        <source>Frami&amp;ng</source>
         <translation>&amp;Cadrage</translation>
     </message>
     <message>
-        <source>Root &amp;type</source>
+        <source>Root ty&amp;pe</source>
         <translation>&amp;Type racine</translation>
     </message>
     <message>

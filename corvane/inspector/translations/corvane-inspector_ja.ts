@@ -317,7 +317,7 @@
         <translation>すべて選択(&amp;A)</translation>
     </message>
     <message>
-        <source>Choose N&amp;one</source>
+        <source>C&amp;hoose None</source>
         <translation>選択解除(&amp;U)</translation>
     </message>
     <message>
@@ -600,10 +600,6 @@ Protocol Buffers %3</translation>
         <translation>このメッセージを記述する定義がありません。その方言の定義を --definitions FILE で読み込んでください。</translation>
     </message>
     <message>
-        <source>No source is open. Start the inspector with a source: corvane-inspector --definitions FILE SOURCE. The option --help lists the kinds of sources.</source>
-        <translation>入力元が開かれていません。入力元を付けて起動してください: corvane-inspector --definitions FILE SOURCE。オプション --help で入力元の種類がわかります。</translation>
-    </message>
-    <message>
         <source>Waiting for messages from %1.</source>
         <translation>%1 からのメッセージを待っています。</translation>
     </message>
@@ -658,6 +654,26 @@ Protocol Buffers %3</translation>
     <message>
         <source>About</source>
         <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>%1 has ended.</source>
+        <translation>%1 は終わりました。</translation>
+    </message>
+    <message>
+        <source>No source is open. Choose one with &quot;Open…&quot; in the menu &quot;File&quot;.</source>
+        <translation>入力元が開かれていません。「ファイル」メニューの「開く…」で選んでください。</translation>
+    </message>
+    <message>
+        <source>%1 No bytes have come.</source>
+        <translation>%1 バイトは 1 つも届きませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 None of its %2 bytes could be decoded: they are no messages of this format, or in another framing.</source>
+        <translation>%1 %2 バイトのどれもデコードできませんでした。この形式のメッセージではないか、フレーミングが異なります。</translation>
+    </message>
+    <message>
+        <source>%1 %2 bytes have come, but no message of the loaded definitions among them.</source>
+        <translation>%1 %2 バイト届きましたが、読み込んだ定義のメッセージは含まれていません。</translation>
     </message>
 </context>
 <context>
@@ -932,16 +948,16 @@ Protocol Buffers %3</translation>
         <translation>定義(&amp;D)</translation>
     </message>
     <message>
-        <source>O&amp;verlays</source>
-        <translation>オーバーレイ(&amp;V)</translation>
+        <source>Overla&amp;ys</source>
+        <translation>オーバーレイ(&amp;Y)</translation>
     </message>
     <message>
-        <source>&amp;Framing</source>
-        <translation>フレーミング(&amp;F)</translation>
+        <source>Frami&amp;ng</source>
+        <translation>フレーミング(&amp;N)</translation>
     </message>
     <message>
-        <source>Root &amp;type</source>
-        <translation>ルートの型(&amp;T)</translation>
+        <source>Root ty&amp;pe</source>
+        <translation>ルートの型(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Open</source>

@@ -317,7 +317,7 @@
         <translation>全选(&amp;A)</translation>
     </message>
     <message>
-        <source>Choose N&amp;one</source>
+        <source>C&amp;hoose None</source>
         <translation>全不选(&amp;U)</translation>
     </message>
     <message>
@@ -600,10 +600,6 @@ Protocol Buffers %3</translation>
         <translation>没有定义描述此消息。请用 --definitions FILE 加载其方言的定义。</translation>
     </message>
     <message>
-        <source>No source is open. Start the inspector with a source: corvane-inspector --definitions FILE SOURCE. The option --help lists the kinds of sources.</source>
-        <translation>未打开数据源。请带数据源启动检查器：corvane-inspector --definitions FILE SOURCE。选项 --help 列出数据源的种类。</translation>
-    </message>
-    <message>
         <source>Waiting for messages from %1.</source>
         <translation>正在等待来自 %1 的消息。</translation>
     </message>
@@ -658,6 +654,26 @@ Protocol Buffers %3</translation>
     <message>
         <source>About</source>
         <translation>关于</translation>
+    </message>
+    <message>
+        <source>%1 has ended.</source>
+        <translation>%1 已结束。</translation>
+    </message>
+    <message>
+        <source>No source is open. Choose one with &quot;Open…&quot; in the menu &quot;File&quot;.</source>
+        <translation>没有打开的数据源。请用“文件”菜单中的“打开…”选择一个。</translation>
+    </message>
+    <message>
+        <source>%1 No bytes have come.</source>
+        <translation>%1 没有收到任何字节。</translation>
+    </message>
+    <message>
+        <source>%1 None of its %2 bytes could be decoded: they are no messages of this format, or in another framing.</source>
+        <translation>%1 其 %2 个字节都无法解码：它们不是此格式的消息，或者使用了其他分帧方式。</translation>
+    </message>
+    <message>
+        <source>%1 %2 bytes have come, but no message of the loaded definitions among them.</source>
+        <translation>%1 已收到 %2 个字节，但其中没有已加载定义的消息。</translation>
     </message>
 </context>
 <context>
@@ -932,16 +948,16 @@ Protocol Buffers %3</translation>
         <translation>定义(&amp;D)</translation>
     </message>
     <message>
-        <source>O&amp;verlays</source>
-        <translation>叠加文件(&amp;V)</translation>
+        <source>Overla&amp;ys</source>
+        <translation>叠加文件(&amp;Y)</translation>
     </message>
     <message>
-        <source>&amp;Framing</source>
-        <translation>分帧(&amp;F)</translation>
+        <source>Frami&amp;ng</source>
+        <translation>分帧(&amp;N)</translation>
     </message>
     <message>
-        <source>Root &amp;type</source>
-        <translation>根类型(&amp;T)</translation>
+        <source>Root ty&amp;pe</source>
+        <translation>根类型(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Open</source>

@@ -181,11 +181,11 @@ void tst_exportdialog::search_showsMatches_andButtonsActOnThem()
     QVERIFY(!shown.item(QStringLiteral("roll"))->isHidden());
     QVERIFY(shown.item(QStringLiteral("pitch"))->isHidden());
     QVERIFY(shown.item(QStringLiteral("Position"))->isHidden());
-    QTest::mouseClick(shown.button(QStringLiteral("Choose N&one")), Qt::LeftButton);
+    QTest::mouseClick(shown.button(QStringLiteral("C&hoose None")), Qt::LeftButton);
     QCOMPARE(shown.chosen(), QStringLiteral("Attitude(pitch) Empty() Position(lat,status)"));
     search->clear();
     QVERIFY(!shown.item(QStringLiteral("pitch"))->isHidden());
-    QTest::mouseClick(shown.button(QStringLiteral("Choose N&one")), Qt::LeftButton);
+    QTest::mouseClick(shown.button(QStringLiteral("C&hoose None")), Qt::LeftButton);
     QCOMPARE(shown.chosen(), QString());
     search->setText(QStringLiteral("Position"));
     QTest::mouseClick(shown.button(QStringLiteral("Choose &All")), Qt::LeftButton);
@@ -202,7 +202,7 @@ void tst_exportdialog::exportButton_needsAChoiceAndAFile()
     QVERIFY(shown.says(QStringLiteral("Choose the file to write")));
     shown.file()->setText(QStringLiteral("/tmp/x/y.csv"));
     QVERIFY(button->isEnabled());
-    QTest::mouseClick(shown.button(QStringLiteral("Choose N&one")), Qt::LeftButton);
+    QTest::mouseClick(shown.button(QStringLiteral("C&hoose None")), Qt::LeftButton);
     QVERIFY(!button->isEnabled());
     QVERIFY(shown.says(QStringLiteral("Choose messages or fields")));
 }

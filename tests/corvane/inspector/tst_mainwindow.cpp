@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QSettings>
@@ -36,6 +37,7 @@ class tst_mainwindow : public TestCase
 
 private Q_SLOTS:
     void withoutSource_saysHowToOpenOne();
+    void nothingDecoded_saysWhatHappened();
     void firstMessage_isChosenAndShown();
     void firstStart_hasTheFormInFront();
     void types_areListedWithTheirCounts();
@@ -56,6 +58,7 @@ private Q_SLOTS:
     void exportedStatistics_areToldAboveTheViews();
     void transportBar_isThereForRecordingsOnly();
     void layout_isRememberedByTheSettings();
+    void columns_areRemembered();
     void layout_atFirst_showsTheForm();
     void layout_ofRandomBytes_startsWithTheDefault();
 };
@@ -71,6 +74,32 @@ void tst_mainwindow::withoutSource_saysHowToOpenOne()
         return label->text().contains(QStringLiteral("No source is open"));
     });
     QVERIFY(explained);
+}
+
+void tst_mainwindow::nothingDecoded_saysWhatHappened()
+{
+    ShownWindow shown;
+    const auto readFile = [&shown](const QByteArray &content) {
+        QFile file(shown.folder.filePath(QStringLiteral("file.tlog")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        Session session;
+        shown.options.source = SourceAddress::parse(file.fileName()).address;
+        session.load(shown.options);
+        shown.window = std::make_unique<MainWindow>(session, shown.settings);
+        QVERIFY(!shown.says(QStringLiteral("has ended")));
+        session.start(shown.options);
+        QTRY_VERIFY(shown.says(QStringLiteral("file.tlog has ended.")));
+        QVERIFY(!shown.says(QStringLiteral("No source is open")));
+        QVERIFY(!shown.says(QStringLiteral("Waiting for messages")));
+        QCOMPARE(shown.says(QStringLiteral("No bytes have come.")), content.isEmpty());
+        QCOMPARE(shown.says(QStringLiteral("None of its 9 bytes could be decoded")),
+                 !content.isEmpty());
+        shown.window.reset();
+    };
+    readFile("no frames");
+    readFile({});
 }
 
 void tst_mainwindow::firstMessage_isChosenAndShown()
@@ -314,6 +343,29 @@ void tst_mainwindow::layout_isRememberedByTheSettings()
     QVERIFY(!next.findChild<QDockWidget *>(QStringLiteral("form"))->isVisible());
     QVERIFY(next.findChild<QDockWidget *>(QStringLiteral("types"))->isVisible());
     QCOMPARE(next.size(), QSize(700, 560));
+}
+
+void tst_mainwindow::columns_areRemembered()
+{
+    ShownWindow shown;
+    const auto headerOf = [&shown](const char *dock) {
+        const auto *panel = shown.window->findChild<QDockWidget *>(QLatin1String(dock));
+        for (QHeaderView *header : panel->findChildren<QHeaderView *>())
+            if (header->orientation() == Qt::Horizontal)
+                return header;
+        return static_cast<QHeaderView *>(nullptr);
+    };
+    headerOf("watch")->resizeSection(0, 123);
+    headerOf("watch")->moveSection(2, 1);
+    headerOf("events")->resizeSection(0, 77);
+    headerOf("senders")->setSortIndicator(3, Qt::DescendingOrder);
+    shown.window->close();
+    shown.window = std::make_unique<MainWindow>(shown.session, shown.settings);
+    QCOMPARE(headerOf("watch")->sectionSize(0), 123);
+    QCOMPARE(headerOf("watch")->visualIndex(2), 1);
+    QCOMPARE(headerOf("events")->sectionSize(0), 77);
+    QCOMPARE(headerOf("senders")->sortIndicatorSection(), 3);
+    QCOMPARE(headerOf("senders")->sortIndicatorOrder(), Qt::DescendingOrder);
 }
 
 void tst_mainwindow::layout_atFirst_showsTheForm()

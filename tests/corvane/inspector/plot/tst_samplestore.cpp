@@ -22,6 +22,7 @@ private Q_SLOTS:
     void gaps_areKeptOnce();
     void unshowableValues_areGaps();
     void full_staysWithinItsBounds();
+    void growing_movesNothing();
     void full_ofGaps_staysWithinItsBounds();
     void thinning_keepsTheExtremes();
     void thinning_keepsGaps();
@@ -174,6 +175,21 @@ void tst_samplestore::full_staysWithinItsBounds()
     QVERIFY(store.getSamples().size() > 500);
     QVERIFY(store.getSamples().front().timeUs < 10); // the beginning is still there
     QCOMPARE(store.getSamples().back().timeUs, 99'999);
+}
+
+void tst_samplestore::growing_movesNothing()
+{
+    constexpr size_t capacity = 10'000;
+    SampleStore store(capacity);
+    QCOMPARE(store.getBytes(), size_t(0));
+    store.append(0, 0.0);
+    const Sample *first = store.getSamples().data();
+    for (size_t i = 1; i < 3 * capacity; ++i) {
+        store.append(static_cast<qint64>(i), 1.0);
+        QCOMPARE(store.getSamples().data(), first);
+    }
+    QVERIFY(store.getBytes() >= store.getSamples().size() * sizeof(Sample));
+    QVERIFY(store.getBytes() < capacity * 17);
 }
 
 void tst_samplestore::full_ofGaps_staysWithinItsBounds()
