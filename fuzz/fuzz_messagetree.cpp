@@ -160,6 +160,8 @@ private:
 History::History()
 {
     addRow(format.type(QStringLiteral("Position")));
+    rowAt(0)->setFilter(&filters.front());
+    model.setFilter(0, &filters.front());
 }
 
 History::~History()
