@@ -1085,7 +1085,7 @@ Drücken Sie noch einmal auf „Öffnen“, um es zu starten.</translation>
     </message>
     <message>
         <source>In</source>
-        <translation>Näher</translation>
+        <translation>Vergrößern</translation>
     </message>
     <message>
         <source>Show less time (+)</source>
@@ -1093,7 +1093,7 @@ Drücken Sie noch einmal auf „Öffnen“, um es zu starten.</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation>Weiter</translation>
+        <translation>Verkleinern</translation>
     </message>
     <message>
         <source>Show more time (-)</source>

@@ -1085,7 +1085,7 @@ Appuyez encore sur Ouvrir pour le démarrer.</translation>
     </message>
     <message>
         <source>In</source>
-        <translation>Avant</translation>
+        <translation>Zoom avant</translation>
     </message>
     <message>
         <source>Show less time (+)</source>
@@ -1093,7 +1093,7 @@ Appuyez encore sur Ouvrir pour le démarrer.</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation>Arrière</translation>
+        <translation>Zoom arrière</translation>
     </message>
     <message>
         <source>Show more time (-)</source>
