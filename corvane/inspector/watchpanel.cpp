@@ -161,8 +161,10 @@ void WatchPanel::createTable()
     fitRowHeight();
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setSectionsMovable(true);
-    table->setColumnWidth(PathColumn, fontMetrics().averageCharWidth() * 36);
-    table->setColumnWidth(ValueColumn, fontMetrics().averageCharWidth() * 20);
+    table->setColumnWidth(PathColumn, fontMetrics().averageCharWidth() * 24);
+    table->setColumnWidth(ValueColumn, fontMetrics().averageCharWidth() * 14);
+    table->setColumnWidth(UnitColumn, fontMetrics().averageCharWidth() * 8);
+    table->setTextElideMode(Qt::ElideLeft); // the end of a path says most
     auto *remove = new QAction(tr("Stop Watching"), table);
     remove->setShortcut(QKeySequence::Delete);
     remove->setShortcutContext(Qt::WidgetShortcut);
