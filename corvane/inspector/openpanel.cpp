@@ -194,7 +194,8 @@ QWidget *OpenPanel::createForm()
     const auto addRow = [&](const QString &title, QWidget *widget, int columns = 2) {
         auto *label = new QLabel(title, form);
         label->setBuddy(widget);
-        layout->addWidget(label, row, 0, Qt::AlignTop);
+        const bool isLine = qobject_cast<FileList *>(widget) == nullptr;
+        layout->addWidget(label, row, 0, isLine ? Qt::AlignVCenter : Qt::AlignTop);
         layout->addWidget(widget, row++, 1, 1, columns);
     };
     addRow(tr("&Source"), kind);

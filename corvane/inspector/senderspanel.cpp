@@ -41,6 +41,10 @@ SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
     tree->headerItem()->setToolTip(LostColumn, tr("Messages missing by their sequence numbers"));
     tree->header()->setStretchLastSection(false);
     tree->header()->setSectionResizeMode(SenderColumn, QHeaderView::Stretch);
+    for (int column = FramesColumn; column < ColumnCount; ++column) {
+        tree->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+        tree->header()->resizeSection(column, tree->header()->sectionSizeHint(column));
+    }
     tree->setSortingEnabled(true);
     tree->sortByColumn(SenderColumn, Qt::AscendingOrder);
     hideErrorsWithoutChecksum();

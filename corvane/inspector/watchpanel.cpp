@@ -20,6 +20,7 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStringListModel>
+#include <QStyle>
 #include <QTableWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -161,12 +162,15 @@ void WatchPanel::createTable()
     fitRowHeight();
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setSectionsMovable(true);
-    table->setColumnWidth(PathColumn, fontMetrics().averageCharWidth() * 36);
-    table->setColumnWidth(ValueColumn, fontMetrics().averageCharWidth() * 20);
+    table->setColumnWidth(PathColumn, fontMetrics().averageCharWidth() * 24);
+    table->setColumnWidth(ValueColumn, fontMetrics().averageCharWidth() * 14);
+    table->setColumnWidth(UnitColumn, fontMetrics().averageCharWidth() * 8);
+    table->setTextElideMode(Qt::ElideLeft); // the end of a path says most
     auto *remove = new QAction(tr("Stop Watching"), table);
     remove->setShortcut(QKeySequence::Delete);
     remove->setShortcutContext(Qt::WidgetShortcut);
     connect(remove, &QAction::triggered, this, &WatchPanel::removeCurrent);
+    connect(table, &QTableWidget::itemSelectionChanged, this, &WatchPanel::colorLabels);
     table->addAction(remove);
     table->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
@@ -256,7 +260,19 @@ void WatchPanel::createLabel(Row &row)
     row.label = new FieldValueLabel(row.field);
     row.label->setTextFormat(Qt::PlainText);
     row.label->setTimeOut(timeOutMs);
+    row.label->setIndent(table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1); // as cells
     showLatest(row);
+}
+
+/** As the cells beside them. */
+void WatchPanel::colorLabels()
+{
+    for (size_t i = 0; i < rows.size(); ++i) {
+        const QTableWidgetItem *cell = table->item(static_cast<int>(i), PathColumn);
+        if (rows[i].label != nullptr && cell != nullptr)
+            rows[i].label->setForegroundRole(cell->isSelected() ? QPalette::HighlightedText
+                                                                : QPalette::Text);
+    }
 }
 
 void WatchPanel::showLatest(const Row &row)

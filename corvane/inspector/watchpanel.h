@@ -81,6 +81,7 @@ private:
     void completeOptions();
     void followParts();
     void createLabel(Row &row);
+    void colorLabels();
     static void showValue(const Message *message, FieldValueLabel &label);
     void showLatest(const Row &row);
     void showAllLatest();

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void pathOfTooMuch_isExplained();
     void wildCards_addSeveralOnce();
     void rows_canBeRemovedAndMoved();
+    void currentRow_hasOneColour();
     void settings_rememberTheRows();
     void format_comesAndGoes();
 };
@@ -214,6 +215,21 @@ void tst_watchpanel::rows_canBeRemovedAndMoved()
     shown.table()->setCurrentCell(1, 0);
     shown.press("Up"); // and keeps its value
     QCOMPARE(shown.rows().constFirst(), "Demo.Position.speed | 3 | m/s | Current");
+}
+
+void tst_watchpanel::currentRow_hasOneColour()
+{
+    Shown shown;
+    shown.panel.watch("Demo.Position.*");
+    const auto roleOf
+        = [&shown](int row) { return shown.table()->cellWidget(row, 1)->foregroundRole(); };
+    for (const int current : {1, 0}) {
+        shown.table()->setCurrentCell(current, 0);
+        QCOMPARE(roleOf(current), QPalette::HighlightedText);
+        QCOMPARE(roleOf(1 - current), QPalette::Text);
+    }
+    shown.panel.moveCurrent(1);
+    QCOMPARE(roleOf(1), QPalette::HighlightedText);
 }
 
 void tst_watchpanel::settings_rememberTheRows()
