@@ -17,7 +17,7 @@ target_compile_definitions(project_options INTERFACE
 if(CMAKE_BUILD_TYPE STREQUAL "Debug")
     find_program(CORVANE_FAST_LINKER NAMES ld.lld)
     if(CORVANE_FAST_LINKER)
-        add_link_options(-fuse-ld=lld)
+        add_link_options(-fuse-ld=lld -Wl,--build-id=sha1) # as long as the usual one
     endif()
 endif()
 
