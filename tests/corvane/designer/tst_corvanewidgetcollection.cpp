@@ -1,10 +1,12 @@
 #include "testcase.h"
+#include "translationtexts.h"
 #include "ui_everywidget.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QPluginLoader>
 #include <QRegularExpression>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
@@ -27,6 +29,12 @@ QList<QDesignerCustomWidgetInterface *> offeredWidgets()
         qWarning("%s", qPrintable(loader.errorString()));
     return collection != nullptr ? collection->customWidgets()
                                  : QList<QDesignerCustomWidgetInterface *>();
+}
+
+TranslationTexts toolTipsIn(const QString &language)
+{
+    return readTranslations(sourceFile(
+        QStringLiteral("corvane/designer/translations/corvane-designer_%1.ts").arg(language)));
 }
 
 QString withoutNamespace(const QString &className)
@@ -60,13 +68,26 @@ class TestCorvaneWidgetCollection : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void offersEveryPublicWidget();
     void describesEachWidget();
+    void speaksTheReadersLanguage();
+    void translatesIntoEachLanguage_data();
+    void translatesIntoEachLanguage();
     void createsWhatItNames();
     void makesAFormAtRunTime();
     void makesAFormAtCompileTime();
     void givesTheFormsWidgetsAll();
 };
+
+/** The plug-in asks for the language when it is loaded; the widgets' own texts stay in English. */
+void TestCorvaneWidgetCollection::initTestCase()
+{
+    const QLocale former;
+    QLocale::setDefault(QLocale(QStringLiteral("de")));
+    offeredWidgets();
+    QLocale::setDefault(former);
+}
 
 void TestCorvaneWidgetCollection::offersEveryPublicWidget()
 {
@@ -94,6 +115,38 @@ void TestCorvaneWidgetCollection::describesEachWidget()
             return QFileInfo::exists(sourceFile(folder + '/' + widget->includeFile()));
         }));
     }
+}
+
+void TestCorvaneWidgetCollection::speaksTheReadersLanguage()
+{
+#ifdef CORVANE_HAS_TRANSLATIONS
+    QStringList toolTips;
+    for (const auto *widget : offeredWidgets())
+        toolTips += widget->toolTip();
+    toolTips.sort();
+    QStringList german = toolTipsIn(QStringLiteral("de")).values();
+    german.sort();
+    QCOMPARE(toolTips, german);
+#else
+    QSKIP("built without Qt's LinguistTools");
+#endif
+}
+
+void TestCorvaneWidgetCollection::translatesIntoEachLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *language : {"de", "es", "fr", "ja", "zh_CN"})
+        QTest::newRow(language) << language;
+}
+
+void TestCorvaneWidgetCollection::translatesIntoEachLanguage()
+{
+    QFETCH(QString, language);
+    const TranslationTexts texts = toolTipsIn(language);
+    QCOMPARE(texts.keys(), toolTipsIn(QStringLiteral("de")).keys());
+    QCOMPARE(texts.size(), offeredWidgets().size());
+    for (auto text = texts.begin(); text != texts.end(); ++text)
+        QVERIFY2(!text.value().isEmpty(), qPrintable(text.key()));
 }
 
 void TestCorvaneWidgetCollection::createsWhatItNames()
