@@ -214,9 +214,9 @@ void EventLogPanel::refreshState()
     if (rows == 0)
         text = tr("No events: nothing was damaged, lost or unknown");
     else if (filter.isEmpty())
-        text = tr("%1 entries").arg(locale.toString(rows));
+        text = tr("Entries: %1").arg(locale.toString(rows));
     else
-        text = tr("%1 of %2 entries").arg(locale.toString(shownRows), locale.toString(rows));
+        text = tr("Entries: %1 of %2").arg(locale.toString(shownRows), locale.toString(rows));
     if (!following)
         text += tr(", not following");
     state->setText(text);

@@ -1,5 +1,6 @@
 #include "openpanel.h"
 
+#include "emptyhint.h"
 #include "hostfeed.h"
 #include "noticearea.h"
 #include "options.h"
@@ -56,12 +57,35 @@ bool hasSuffix(const QString &file, std::initializer_list<const char *> suffixes
                        [&](const char *known) { return suffix == QLatin1String(known); });
 }
 
+/** A list that says what would fill it. */
+class HintedList final : public QListWidget
+{
+public:
+    HintedList(const QString &hint, QWidget *parent)
+        : QListWidget(parent)
+        , hint(hint)
+    {
+        setAccessibleDescription(hint);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QListWidget::paintEvent(event);
+        if (count() == 0)
+            paintEmptyHint(*this, hint);
+    }
+
+private:
+    QString hint;
+};
+
 } // namespace
 
-FileList::FileList(const QString &name, const QString &filter, QWidget *parent)
+FileList::FileList(const QString &name, const QString &hint, const QString &filter, QWidget *parent)
     : QWidget(parent)
     , filter(filter)
-    , list(new QListWidget(this))
+    , list(new HintedList(hint, this))
     , addButton(new QToolButton(this))
 {
     list->setAccessibleName(name);
@@ -144,7 +168,7 @@ QWidget *OpenPanel::createRecentList()
 {
     auto *side = new QWidget(this);
     auto *title = new QLabel(tr("&Recent sources"), side);
-    recentList = new QListWidget(side);
+    recentList = new HintedList(tr("Nothing yet: what you open is listed here."), side);
     recentList->setAccessibleName(tr("Recent sources"));
     recentList->setTextElideMode(Qt::ElideMiddle);
     recentList->setAlternatingRowColors(true);
@@ -173,9 +197,14 @@ QWidget *OpenPanel::createForm()
     address = new QLineEdit(form);
     address->setAccessibleName(tr("Address of the source"));
     browse = new QToolButton(form);
-    definitions = new FileList(tr("Definitions"),
-                               tr("Definitions (*.xml *.proto *.desc *.pb);;All files (*)"), form);
-    overlays = new FileList(tr("Overlays"), tr("Overlays (*.json);;All files (*)"), form);
+    definitions
+        = new FileList(tr("Definitions"),
+                       tr("Files that describe the messages: MAVLink dialects, .proto files "
+                          "or descriptor sets"),
+                       tr("Definitions (*.xml *.proto *.desc *.pb);;All files (*)"), form);
+    overlays = new FileList(tr("Overlays"),
+                            tr("Files that add roles, units or computed fields to the definitions"),
+                            tr("Overlays (*.json);;All files (*)"), form);
     framing = new QComboBox(form);
     framing->setAccessibleName(tr("Framing"));
     framing->addItem(tr("By itself"), QString());
@@ -276,11 +305,6 @@ void OpenPanel::refreshRecent()
     for (const SourceChoice &choice : choices) {
         auto *item = new QListWidgetItem(choice.source, recentList);
         item->setToolTip(QStringList(choice.definitions + choice.overlays).join(QLatin1Char('\n')));
-    }
-    if (choices.isEmpty()) {
-        auto *item
-            = new QListWidgetItem(tr("Nothing yet: what you open is listed here."), recentList);
-        item->setFlags(Qt::NoItemFlags);
     }
 }
 

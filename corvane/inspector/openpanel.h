@@ -23,8 +23,14 @@ class FileList : public QWidget
     Q_OBJECT
 
 public:
-    /** \a name: for people who hear the window. \a filter: of the file dialog. */
-    FileList(const QString &name, const QString &filter, QWidget *parent = nullptr);
+    /**
+     * \a name: for people who hear the window. \a hint: what would fill it. \a filter: of the file
+     * dialog.
+     */
+    FileList(const QString &name,
+             const QString &hint,
+             const QString &filter,
+             QWidget *parent = nullptr);
 
     QStringList getFiles() const;
     void setFiles(const QStringList &files);

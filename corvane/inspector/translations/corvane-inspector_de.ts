@@ -160,12 +160,12 @@
         <translation>Keine Ereignisse: Nichts war beschädigt, verloren oder unbekannt</translation>
     </message>
     <message>
-        <source>%1 entries</source>
-        <translation>%1 Einträge</translation>
+        <source>Entries: %1</source>
+        <translation>Einträge: %1</translation>
     </message>
     <message>
-        <source>%1 of %2 entries</source>
-        <translation>%1 von %2 Einträgen</translation>
+        <source>Entries: %1 of %2</source>
+        <translation>Einträge: %1 von %2</translation>
     </message>
     <message>
         <source>, not following</source>
@@ -986,6 +986,14 @@ Protocol Buffers %3</translation>
     <message>
         <source>Open</source>
         <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Files that describe the messages: MAVLink dialects, .proto files or descriptor sets</source>
+        <translation>Dateien, die die Nachrichten beschreiben: MAVLink-Dialekte, .proto-Dateien oder Deskriptorsätze</translation>
+    </message>
+    <message>
+        <source>Files that add roles, units or computed fields to the definitions</source>
+        <translation>Dateien, die den Definitionen Rollen, Einheiten oder berechnete Felder hinzufügen</translation>
     </message>
     <message>
         <source>Nothing yet: what you open is listed here.</source>

@@ -160,12 +160,12 @@
         <translation>Ningún evento: nada se dañó, se perdió ni era desconocido</translation>
     </message>
     <message>
-        <source>%1 entries</source>
-        <translation>%1 entradas</translation>
+        <source>Entries: %1</source>
+        <translation>Entradas: %1</translation>
     </message>
     <message>
-        <source>%1 of %2 entries</source>
-        <translation>%1 de %2 entradas</translation>
+        <source>Entries: %1 of %2</source>
+        <translation>Entradas: %1 de %2</translation>
     </message>
     <message>
         <source>, not following</source>
@@ -986,6 +986,14 @@ Protocol Buffers %3</translation>
     <message>
         <source>Open</source>
         <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Files that describe the messages: MAVLink dialects, .proto files or descriptor sets</source>
+        <translation>Archivos que describen los mensajes: dialectos MAVLink, archivos .proto o conjuntos de descriptores</translation>
+    </message>
+    <message>
+        <source>Files that add roles, units or computed fields to the definitions</source>
+        <translation>Archivos que añaden funciones, unidades o campos calculados a las definiciones</translation>
     </message>
     <message>
         <source>Nothing yet: what you open is listed here.</source>

@@ -160,12 +160,12 @@
         <translation>Aucun événement&#xa0;: rien n’a été endommagé, perdu ou inconnu</translation>
     </message>
     <message>
-        <source>%1 entries</source>
-        <translation>%1 entrées</translation>
+        <source>Entries: %1</source>
+        <translation>Entrées : %1</translation>
     </message>
     <message>
-        <source>%1 of %2 entries</source>
-        <translation>%1 entrées sur %2</translation>
+        <source>Entries: %1 of %2</source>
+        <translation>Entrées : %1 sur %2</translation>
     </message>
     <message>
         <source>, not following</source>
@@ -986,6 +986,14 @@ Protocol Buffers %3</translation>
     <message>
         <source>Open</source>
         <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Files that describe the messages: MAVLink dialects, .proto files or descriptor sets</source>
+        <translation>Fichiers qui décrivent les messages : dialectes MAVLink, fichiers .proto ou jeux de descripteurs</translation>
+    </message>
+    <message>
+        <source>Files that add roles, units or computed fields to the definitions</source>
+        <translation>Fichiers qui ajoutent des rôles, des unités ou des champs calculés aux définitions</translation>
     </message>
     <message>
         <source>Nothing yet: what you open is listed here.</source>

@@ -160,11 +160,11 @@
         <translation>イベントなし: 破損、消失、未知のものはありません</translation>
     </message>
     <message>
-        <source>%1 entries</source>
+        <source>Entries: %1</source>
         <translation>%1 件</translation>
     </message>
     <message>
-        <source>%1 of %2 entries</source>
+        <source>Entries: %1 of %2</source>
         <translation>%2 件中 %1 件</translation>
     </message>
     <message>
@@ -986,6 +986,14 @@ Protocol Buffers %3</translation>
     <message>
         <source>Open</source>
         <translation>開く</translation>
+    </message>
+    <message>
+        <source>Files that describe the messages: MAVLink dialects, .proto files or descriptor sets</source>
+        <translation>メッセージを記述するファイル: MAVLink ダイアレクト、.proto ファイル、記述子セット</translation>
+    </message>
+    <message>
+        <source>Files that add roles, units or computed fields to the definitions</source>
+        <translation>定義に役割、単位、計算フィールドを追加するファイル</translation>
     </message>
     <message>
         <source>Nothing yet: what you open is listed here.</source>

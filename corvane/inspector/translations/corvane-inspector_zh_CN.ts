@@ -160,11 +160,11 @@
         <translation>没有事件：没有损坏、丢失或未知的内容</translation>
     </message>
     <message>
-        <source>%1 entries</source>
+        <source>Entries: %1</source>
         <translation>%1 个条目</translation>
     </message>
     <message>
-        <source>%1 of %2 entries</source>
+        <source>Entries: %1 of %2</source>
         <translation>%2 个条目中的 %1 个</translation>
     </message>
     <message>
@@ -986,6 +986,14 @@ Protocol Buffers %3</translation>
     <message>
         <source>Open</source>
         <translation>打开</translation>
+    </message>
+    <message>
+        <source>Files that describe the messages: MAVLink dialects, .proto files or descriptor sets</source>
+        <translation>描述消息的文件：MAVLink 方言、.proto 文件或描述符集</translation>
+    </message>
+    <message>
+        <source>Files that add roles, units or computed fields to the definitions</source>
+        <translation>为定义添加角色、单位或计算字段的文件</translation>
     </message>
     <message>
         <source>Nothing yet: what you open is listed here.</source>

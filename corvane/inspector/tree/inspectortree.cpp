@@ -1,6 +1,7 @@
 #include "inspectortree.h"
 
 #include "descriptions.h"
+#include "emptyhint.h"
 #include "expansion.h"
 #include "plainmarkup.h"
 #include "rowdescription.h"
@@ -145,13 +146,8 @@ void InspectorTree::contextMenuEvent(QContextMenuEvent *event)
 void InspectorTree::paintEvent(QPaintEvent *event)
 {
     MessageTreeWidget::paintEvent(event);
-    if (topLevelItemCount() > 0 || emptyText.isEmpty())
-        return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    const int margin = fontMetrics().height() * 2;
-    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                     Qt::AlignCenter | Qt::TextWordWrap, emptyText);
+    if (topLevelItemCount() == 0)
+        paintEmptyHint(*this, emptyText);
 }
 
 bool InspectorTree::viewportEvent(QEvent *event)

@@ -196,12 +196,12 @@ void tst_receptionpanels::events_showOnlyWhatIsLookedFor()
     auto *edit = panel.findChild<QLineEdit *>();
     const auto *table = panel.findChild<EventLogTableWidget *>();
     const auto *state = panel.findChild<QLabel *>();
-    QTRY_COMPARE(state->text(), "2 entries");
+    QTRY_COMPARE(state->text(), "Entries: 2");
     QTest::keyClicks(edit, "crc");
     QTRY_COMPARE(shownEvents(*table), QStringList{"CRC error: A"});
     log.addEntry(entry("crc error: B"));
     log.addEntry(entry("lost again"));
-    QTRY_COMPARE(state->text(), "2 of 4 entries");
+    QTRY_COMPARE(state->text(), "Entries: 2 of 4");
     QCOMPARE(shownEvents(*table), (QStringList{"CRC error: A", "crc error: B"}));
     edit->clear();
     QTRY_COMPARE(shownEvents(*table).size(), 4);
@@ -256,7 +256,7 @@ void tst_receptionpanels::events_startAgainWhenTheLogIsCleared()
     panel.setFilter("t");
     log.addEntry(entry("two"));
     log.addEntry(entry("one"));
-    QTRY_COMPARE(panel.findChild<QLabel *>()->text(), "1 of 2 entries");
+    QTRY_COMPARE(panel.findChild<QLabel *>()->text(), "Entries: 1 of 2");
 }
 
 void tst_receptionpanels::events_ofALongLog_areFilteredAtOnce()
@@ -346,7 +346,7 @@ void tst_receptionpanels::events_clearedWhileFiltered_areShownAfterwards()
     log.clear();
     log.addEntry(entry("two"));
     log.addEntry(entry("three"));
-    QTRY_COMPARE(panel.findChild<QLabel *>()->text(), "1 of 2 entries");
+    QTRY_COMPARE(panel.findChild<QLabel *>()->text(), "Entries: 1 of 2");
     QCOMPARE(shownEvents(*table), QStringList{"two"});
 }
 
