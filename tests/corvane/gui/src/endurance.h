@@ -1,6 +1,8 @@
 #pragma once
 
+#include "messageholder.h"
 #include "testcase.h"
+#include "testformat.h"
 
 #include <QCoreApplication>
 
@@ -47,6 +49,25 @@ private:
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+};
+
+/** Two messages of a type with a field of each kind; every optional one is in one of them. */
+struct PositionMessages
+{
+    const TestFormat format{QStringLiteral("Demo"), QStringLiteral(R"(
+        Position
+          mode    uint8 {Manual=0, Auto=2}
+          height  double optional
+          samples int16[]
+          best    Satellite optional
+          sats    Satellite[]
+        Satellite part
+          state   uint8 {Lost=0, Good=1}
+    )")};
+    const MessageHolder first = format.message(
+        QStringLiteral("Position{mode: Auto, samples: [1, 2], sats: [{state: Good}, {}]}"));
+    const MessageHolder second
+        = format.message(QStringLiteral("Position{mode: 0, height: 2, best: {state: Lost}}"));
 };
 
 } // namespace corvane::test

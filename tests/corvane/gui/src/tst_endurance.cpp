@@ -7,7 +7,6 @@
 #include "pathexpressionlabel.h"
 #include "pathexpressionlineedit.h"
 #include "pathexpressionlistwidget.h"
-#include "testformat.h"
 #include "testsource.h"
 
 #include <QApplication>
@@ -17,7 +16,7 @@
 using namespace corvane::test;
 
 /** Of the widgets without rows of their own. */
-class TestEndurance : public EnduranceCase
+class TestEndurance : public EnduranceCase, protected PositionMessages
 {
     Q_OBJECT
 
@@ -50,20 +49,6 @@ private:
         });
     }
 
-    const TestFormat format{QStringLiteral("Demo"), QStringLiteral(R"(
-        Position
-          mode    uint8 {Manual=0, Auto=2}
-          height  double optional
-          samples int16[]
-          best    Satellite optional
-          sats    Satellite[]
-        Satellite part
-          state   uint8 {Lost=0, Good=1}
-    )")};
-    const MessageHolder first = format.message(
-        QStringLiteral("Position{mode: Auto, samples: [1, 2], sats: [{state: Good}, {}]}"));
-    const MessageHolder second
-        = format.message(QStringLiteral("Position{mode: 0, height: 2, best: {state: Lost}}"));
     TestSource source{format};
 };
 

@@ -2,35 +2,18 @@
 #include "messagetreefilter.h"
 #include "messagetreewidget.h"
 #include "messagetreewidgetitem.h"
-#include "testformat.h"
 
 #include <QApplication>
 
 using namespace corvane::test;
 
-class TestTreeEndurance : public EnduranceCase
+class TestTreeEndurance : public EnduranceCase, protected PositionMessages
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void tree();
     void rows();
-
-private:
-    const TestFormat format{QStringLiteral("Demo"), QStringLiteral(R"(
-        Position
-          mode    uint8 {Manual=0, Auto=2}
-          height  double optional
-          samples int16[]
-          best    Satellite optional
-          sats    Satellite[]
-        Satellite part
-          state   uint8 {Lost=0, Good=1}
-    )")};
-    const MessageHolder first = format.message(
-        QStringLiteral("Position{mode: Auto, samples: [1, 2], sats: [{state: Good}, {}]}"));
-    const MessageHolder second
-        = format.message(QStringLiteral("Position{mode: 0, height: 2, best: {state: Lost}}"));
 };
 
 void TestTreeEndurance::tree()
