@@ -89,6 +89,7 @@ bool Recorder::start(const QString &newPath)
                            .arg(QDir::toNativeSeparators(path), describeOpenError(errno));
         return false;
     }
+    ++recording;
     thread.reset(QThread::create([this] { runThread(); }));
     thread->start();
     return true;
@@ -139,7 +140,8 @@ void Recorder::runThread()
         writeError = error;
     }
     ending = true;
-    QMetaObject::invokeMethod(this, &Recorder::handleThreadEnd, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, ended = recording] { handleThreadEnd(ended); }, Qt::QueuedConnection);
 }
 
 /** Returns 0, or the errno of what failed. */
@@ -174,10 +176,10 @@ void Recorder::joinThread()
         writeError = errno;
 }
 
-void Recorder::handleThreadEnd()
+void Recorder::handleThreadEnd(unsigned ended)
 {
     // By now it may have been stopped, and begun anew.
-    if (isRecording() && thread->isFinished())
+    if (isRecording() && ended == recording)
         stop();
 }
 

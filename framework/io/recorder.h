@@ -73,7 +73,7 @@ private:
     void runThread();
     int writeAll(QByteArrayView bytes);
     void joinThread();
-    void handleThreadEnd();
+    void handleThreadEnd(unsigned ended);
     QString describeFailure() const;
     void fail(const QString &reason);
 
@@ -81,6 +81,7 @@ private:
     QString errorMessage;
     FileDescriptor file; ///< Used by the thread while that runs.
     std::unique_ptr<QThread> thread; ///< Null without a recording.
+    unsigned recording = 0; ///< The number of the present or the latest one.
 
     mutable QMutex mutex; ///< Of all that follows.
     QWaitCondition changed;
