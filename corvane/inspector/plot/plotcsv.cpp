@@ -19,8 +19,8 @@ struct Cursor
 {
     bool isAtEnd() const { return next == end; }
 
-    std::vector<Sample>::const_iterator next;
-    std::vector<Sample>::const_iterator end;
+    SampleStore::Iterator next;
+    SampleStore::Iterator end;
 };
 
 QByteArray quoted(QString text)
@@ -79,9 +79,7 @@ bool writePlotCsv(QIODevice &device, const PlotSeriesList &series, qint64 fromUs
             continue;
         text += headerOf(*one);
         const SampleStore &store = one->getStore();
-        const auto begin = store.getSamples().begin();
-        cursors.push_back({begin + static_cast<std::ptrdiff_t>(store.indexOf(fromUs)),
-                           begin + static_cast<std::ptrdiff_t>(store.indexOf(toUs + 1))});
+        cursors.push_back({store.find(fromUs), store.find(toUs + 1)});
     }
     text += "\r\n";
     while (const auto timeUs = earliestOf(cursors)) {

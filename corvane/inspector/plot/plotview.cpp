@@ -324,7 +324,7 @@ std::optional<qint64> PlotView::getNewestUs() const
 {
     std::optional<qint64> newest;
     for (const auto &one : series)
-        if (const auto &samples = one->getStore().getSamples(); !samples.empty())
+        if (const SampleStore &samples = one->getStore(); !samples.isEmpty())
             newest = std::max(newest.value_or(samples.back().timeUs), samples.back().timeUs);
     return newest;
 }
@@ -370,7 +370,7 @@ void PlotView::showAll()
 {
     std::optional<qint64> firstUs;
     for (const auto &one : series)
-        if (const auto &samples = one->getStore().getSamples(); !samples.empty())
+        if (const SampleStore &samples = one->getStore(); !samples.isEmpty())
             firstUs = std::min(firstUs.value_or(samples.front().timeUs), samples.front().timeUs);
     if (firstUs)
         changeWindow([&] { window.show(*firstUs, *getNewestUs()); });

@@ -1,152 +1,172 @@
 #include "samplestore.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace corvane {
 
 namespace {
 
-constexpr size_t groupSize = 6;
-constexpr size_t keptPerGroup = 3;
 // Beyond it the sums and differences of an axis would overflow.
 constexpr double largestShown = 1e200;
+// Thinned at once, in some ten microseconds.
+constexpr size_t largestRun = 4096 / SampleRun::groupSize * SampleRun::groupSize;
+constexpr size_t leastRuns = 8;
+
+void addColumn(const SampleStore::Iterator &first,
+               const SampleStore::Iterator &end,
+               const Extremes &extremes,
+               std::vector<Sample> &line)
+{
+    SampleStore::Iterator behind = first;
+    for (int i = 0; i < 4 && behind != end; ++i)
+        ++behind;
+    if (behind == end) {
+        line.insert(line.end(), first, end);
+        return;
+    }
+    const Sample &left = *first;
+    const Sample &right = *std::prev(end);
+    const qint64 middleUs = left.timeUs + (right.timeUs - left.timeUs) / 2;
+    line.push_back(left);
+    // There is none where all are gaps, as late and thinned ones may be.
+    if (extremes.smallest <= extremes.largest) {
+        line.push_back({middleUs, extremes.smallest});
+        line.push_back({middleUs, extremes.largest});
+    }
+    line.push_back(right);
+}
 
 } // namespace
 
-void SampleStore::Extremes::add(double value)
+SampleStore::Iterator::Iterator(const std::vector<SampleRun> *runs, size_t run, size_t place)
+    : runs(runs)
+    , run(run)
+    , place(place)
 {
-    // Neither comparison holds for a gap.
-    if (value < smallest)
-        smallest = value;
-    if (value > largest)
-        largest = value;
 }
 
-void SampleStore::Extremes::add(const Extremes &other)
+SampleStore::Iterator &SampleStore::Iterator::operator++()
 {
-    add(other.smallest);
-    add(other.largest);
+    if (++place == (*runs)[run].size()) {
+        ++run;
+        place = 0;
+    }
+    return *this;
+}
+
+SampleStore::Iterator &SampleStore::Iterator::operator--()
+{
+    if (place == 0)
+        place = (*runs)[--run].size();
+    --place;
+    return *this;
 }
 
 SampleStore::SampleStore(size_t capacity)
     : capacity(std::max(capacity, minimumCapacity))
+    , runSize(std::clamp(this->capacity / leastRuns / SampleRun::groupSize * SampleRun::groupSize,
+                         SampleRun::groupSize,
+                         largestRun))
 {
 }
 
 void SampleStore::append(qint64 timeUs, double value)
 {
-    if (samples.capacity() < capacity)
-        reserve();
     const Sample sample{timeUs, std::abs(value) <= largestShown ? value : Sample::gap};
-    if (samples.size() >= capacity)
-        thinOlderHalf();
-    if (!samples.empty() && timeUs < samples.back().timeUs)
+    while (count >= capacity)
+        thinNext();
+    if (count > 0 && timeUs < back().timeUs)
         insertLate(sample);
     else
         push(sample);
 }
 
-/** Takes all memory at once, or growing would copy megabytes; what is not used costs nothing. */
-void SampleStore::reserve()
-{
-    samples.reserve(capacity);
-    blocks.reserve(capacity / blockSize + 1);
-}
-
 void SampleStore::push(const Sample &sample)
 {
-    if (sample.isGap() && !samples.empty() && samples.back().isGap())
+    if (sample.isGap() && count > 0 && back().isGap())
         return;
-    samples.push_back(sample);
-    addToBlocks(samples.size() - 1);
-}
-
-/** To be called for each sample in turn. */
-void SampleStore::addToBlocks(size_t index)
-{
-    if (index % blockSize == 0)
-        blocks.emplace_back();
-    blocks.back().extremes.add(samples[index].value);
-    blocks.back().lastUs = samples[index].timeUs;
+    if (runs.empty() || runs.back().size() >= runSize)
+        runs.emplace_back(runSize);
+    runs.back().append(sample);
+    ++count;
 }
 
 void SampleStore::insertLate(const Sample &sample)
 {
-    size_t place = indexOf(sample.timeUs);
-    if (samples.back().timeUs - sample.timeUs > reorderUs) {
-        samples.resize(place);
-        rebuildBlocks(place);
+    if (back().timeUs - sample.timeUs > reorderUs) {
+        truncate(find(sample.timeUs));
         push(sample);
         return;
     }
-    while (samples[place].timeUs == sample.timeUs)
-        ++place;
-    samples.insert(samples.begin() + static_cast<std::ptrdiff_t>(place), sample);
-    rebuildBlocks(place);
+    Iterator place = find(sample.timeUs + 1);
+    if (runs[place.run].size() >= runSize) {
+        const auto behind = runs.begin() + static_cast<std::ptrdiff_t>(place.run) + 1;
+        runs.insert(behind, runs[place.run].split());
+        place = find(sample.timeUs + 1);
+    }
+    runs[place.run].insert(place.place, sample);
+    ++count;
+}
+
+/** Leaves what is before \a place. */
+void SampleStore::truncate(const Iterator &place)
+{
+    const auto first = runs.begin() + static_cast<std::ptrdiff_t>(place.run);
+    first->truncate(place.place);
+    runs.erase(place.place > 0 ? first + 1 : first, runs.end());
+    count = 0;
+    for (const SampleRun &run : runs)
+        count += run.size();
 }
 
 void SampleStore::clear()
 {
-    samples.clear();
-    blocks.clear();
+    runs.clear();
+    count = 0;
 }
 
-void SampleStore::thinOlderHalf()
+/**
+ * Thins one run of the older half, each in turn, which takes the same short time however much is
+ * stored. Its neighbour takes it in where there is room, so all of them soon have half the samples.
+ */
+void SampleStore::thinNext()
 {
-    const size_t end = samples.size() / 2 / groupSize * groupSize;
-    size_t kept = 0;
-    for (size_t first = 0; first < end; first += groupSize)
-        kept = keepExtremes(first, kept);
-    samples.erase(samples.begin() + static_cast<std::ptrdiff_t>(kept),
-                  samples.begin() + static_cast<std::ptrdiff_t>(end));
-    rebuildBlocks(0);
-}
-
-/** Moves what is kept of the group at \a first to \a kept; returns the place behind it. */
-size_t SampleStore::keepExtremes(size_t first, size_t kept)
-{
-    constexpr size_t none = std::numeric_limits<size_t>::max();
-    std::array<size_t, keptPerGroup> places{none, none, none};
-    auto &[smallest, largest, gap] = places;
-    for (size_t i = first; i < first + groupSize; ++i) {
-        if (samples[i].isGap()) {
-            gap = i;
-            continue;
-        }
-        if (smallest == none || samples[i].value < samples[smallest].value)
-            smallest = i;
-        if (largest == none || samples[i].value > samples[largest].value)
-            largest = i;
+    if (nextToThin >= runs.size() / 2)
+        nextToThin = 0;
+    const auto run = runs.begin() + static_cast<std::ptrdiff_t>(nextToThin);
+    count -= run->size();
+    run->thin();
+    count += run->size();
+    if (nextToThin > 0 && (run - 1)->size() + run->size() <= runSize) {
+        (run - 1)->append(*run);
+        runs.erase(run);
+    } else {
+        ++nextToThin;
     }
-    std::sort(places.begin(), places.end());
-    const auto *end = std::unique(places.begin(), places.end());
-    for (const size_t *place = places.begin(); place != end && *place != none; ++place)
-        samples[kept++] = samples[*place];
-    return kept;
 }
 
-void SampleStore::rebuildBlocks(size_t firstSample)
+size_t SampleStore::getBytes() const
 {
-    size_t i = std::min(firstSample, samples.size()) / blockSize * blockSize;
-    blocks.resize(i / blockSize);
-    for (; i < samples.size(); ++i)
-        addToBlocks(i);
+    size_t bytes = 0;
+    for (const SampleRun &run : runs)
+        bytes += run.getBytes();
+    return bytes;
 }
 
-size_t SampleStore::indexOf(qint64 timeUs) const
+SampleStore::Iterator SampleStore::find(qint64 timeUs) const
 {
-    const auto found
-        = std::partition_point(samples.begin(), samples.end(),
-                               [timeUs](const Sample &sample) { return sample.timeUs < timeUs; });
-    return static_cast<size_t>(found - samples.begin());
+    const auto run = std::partition_point(runs.begin(), runs.end(), [timeUs](const SampleRun &one) {
+        return one.getSamples().back().timeUs < timeUs;
+    });
+    return {&runs, static_cast<size_t>(run - runs.begin()),
+            run != runs.end() ? run->indexOf(timeUs) : 0};
 }
 
 std::optional<Sample> SampleStore::getAt(qint64 timeUs) const
 {
-    const size_t behind = indexOf(timeUs + 1);
-    return behind > 0 ? std::optional(samples[behind - 1]) : std::nullopt;
+    const Iterator behind = find(timeUs + 1);
+    return behind != begin() ? std::optional(*std::prev(behind)) : std::nullopt;
 }
 
 void SampleStore::decimate(qint64 fromUs,
@@ -154,54 +174,28 @@ void SampleStore::decimate(qint64 fromUs,
                            int columns,
                            std::vector<Sample> &line) const
 {
-    size_t i = indexOf(fromUs);
-    if (i > 0)
-        line.push_back(samples[i - 1]);
-    for (int column = 1; column <= columns && i < samples.size(); ++column) {
+    Iterator next = find(fromUs);
+    if (next != begin())
+        line.push_back(*std::prev(next));
+    for (int column = 1; column <= columns && next != end(); ++column) {
         Extremes extremes;
-        const size_t end = scan(i, fromUs + column * columnUs, extremes);
-        addColumn(i, end, extremes, line);
-        i = end;
+        const Iterator behind = scan(next, fromUs + column * columnUs, extremes);
+        addColumn(next, behind, extremes, line);
+        next = behind;
     }
-    if (i < samples.size())
-        line.push_back(samples[i]);
+    if (next != end())
+        line.push_back(*next);
 }
 
-/** Returns the first sample from \a first on that is not before \a endUs. */
-size_t SampleStore::scan(size_t first, qint64 endUs, Extremes &extremes) const
+/** Returns the first sample from \a from on that is not before \a endUs. */
+SampleStore::Iterator SampleStore::scan(Iterator from, qint64 endUs, Extremes &extremes) const
 {
-    const auto scanSamples = [&](size_t i, size_t end) {
-        for (; i < end && samples[i].timeUs < endUs; ++i)
-            extremes.add(samples[i].value);
-        return i;
-    };
-    const size_t firstBlockEnd = std::min((first / blockSize + 1) * blockSize, samples.size());
-    size_t i = scanSamples(first, firstBlockEnd);
-    if (i < firstBlockEnd)
-        return i;
-    size_t block = first / blockSize + 1;
-    for (; block < blocks.size() && blocks[block].lastUs < endUs; ++block)
-        extremes.add(blocks[block].extremes);
-    return scanSamples(std::min(block * blockSize, samples.size()), samples.size());
-}
-
-void SampleStore::addColumn(size_t first,
-                            size_t end,
-                            Extremes extremes,
-                            std::vector<Sample> &line) const
-{
-    if (end - first <= 4) {
-        for (size_t i = first; i < end; ++i)
-            line.push_back(samples[i]);
-        return;
+    for (; from.run < runs.size(); from = {&runs, from.run + 1, 0}) {
+        from.place = runs[from.run].scan(from.place, endUs, extremes);
+        if (from.place < runs[from.run].size())
+            break;
     }
-    const Sample &left = samples[first];
-    const Sample &right = samples[end - 1];
-    const qint64 middleUs = left.timeUs + (right.timeUs - left.timeUs) / 2;
-    line.push_back(left);
-    line.push_back({middleUs, extremes.smallest});
-    line.push_back({middleUs, extremes.largest});
-    line.push_back(right);
+    return from;
 }
 
 } // namespace corvane

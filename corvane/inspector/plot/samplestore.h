@@ -1,32 +1,19 @@
 #pragma once
 
-#include <QtGlobal>
+#include "samplerun.h"
 
-#include <cstddef>
-#include <limits>
+#include <iterator>
 #include <optional>
-#include <vector>
 
 namespace corvane {
-
-/** A value at a time; a value that is not a number stands for a gap in the line. */
-struct Sample
-{
-    static constexpr double gap = std::numeric_limits<double>::quiet_NaN();
-
-    qint64 timeUs = 0; ///< Microseconds since 1970 (UTC).
-    double value = gap;
-
-    bool isGap() const { return value != value; }
-};
 
 /**
  * What one series has been over time, in bounded memory.
  *
- * When the store is full, its older half is thinned: of each group of six samples only the smallest
- * and the largest stay, and a gap where there was one. So the whole time stays to be seen, with all
- * its peaks, coarser the longer ago it is. A sample costs 16 bytes, and less than one more for the
- * extremes by block that make decimate() fast.
+ * While the store is full, its older half is thinned, a little at a time: of each group of six
+ * samples only the smallest and the largest stay, and a gap where there was one. So the whole time
+ * stays to be seen, with all its peaks, coarser the longer ago it is. A sample costs 16 bytes, and
+ * less than one more for the extremes by block that make decimate() fast.
  */
 class SampleStore
 {
@@ -35,6 +22,35 @@ public:
     static constexpr size_t minimumCapacity = 24;
     /** A sample that is late by no more than this is put where it belongs, in microseconds. */
     static constexpr qint64 reorderUs = 1'000'000;
+
+    /** Over all samples in the order of time, until the store changes. */
+    class Iterator
+    {
+    public:
+        using iterator_category = std::bidirectional_iterator_tag;
+        using value_type = Sample;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const Sample *;
+        using reference = const Sample &;
+
+        const Sample &operator*() const { return (*runs)[run].getSamples()[place]; }
+
+        const Sample *operator->() const { return &**this; }
+
+        Iterator &operator++();
+        Iterator &operator--();
+
+        friend bool operator==(const Iterator &, const Iterator &) = default;
+
+    private:
+        friend class SampleStore;
+
+        Iterator(const std::vector<SampleRun> *runs, size_t run, size_t place);
+
+        const std::vector<SampleRun> *runs;
+        size_t run; ///< As many as there are at the end.
+        size_t place;
+    };
 
     /** \a capacity: in samples, raised to minimumCapacity. */
     explicit SampleStore(size_t capacity = defaultCapacity);
@@ -47,18 +63,27 @@ public:
     void append(qint64 timeUs, double value);
     void clear();
 
-    const std::vector<Sample> &getSamples() const { return samples; }
+    Iterator begin() const { return {&runs, 0, 0}; }
+
+    Iterator end() const { return {&runs, runs.size(), 0}; }
+
+    size_t size() const { return count; }
+
+    bool isEmpty() const { return count == 0; }
+
+    /** The oldest sample; there must be one. */
+    const Sample &front() const { return runs.front().getSamples().front(); }
+
+    /** The newest sample; there must be one. */
+    const Sample &back() const { return runs.back().getSamples().back(); }
 
     /** What it takes of memory. */
-    size_t getBytes() const
-    {
-        return samples.size() * sizeof(Sample) + blocks.size() * sizeof(Block);
-    }
+    size_t getBytes() const;
 
     /** The newest sample at or before \a timeUs. */
     std::optional<Sample> getAt(qint64 timeUs) const;
-    /** The number of samples before \a timeUs. */
-    size_t indexOf(qint64 timeUs) const;
+    /** The first sample that is not before \a timeUs. */
+    Iterator find(qint64 timeUs) const;
 
     /**
      * Appends to \a line what a line through all samples looks like on a screen.
@@ -72,37 +97,17 @@ public:
     void decimate(qint64 fromUs, qint64 columnUs, int columns, std::vector<Sample> &line) const;
 
 private:
-    static constexpr size_t blockSize = 32;
-
-    struct Extremes
-    {
-        void add(double value);
-        void add(const Extremes &other);
-
-        double smallest = std::numeric_limits<double>::infinity();
-        double largest = -std::numeric_limits<double>::infinity();
-    };
-
-    /** What is known of blockSize samples without looking at them. */
-    struct Block
-    {
-        Extremes extremes;
-        qint64 lastUs = 0;
-    };
-
-    void reserve();
-    void addToBlocks(size_t index);
     void push(const Sample &sample);
     void insertLate(const Sample &sample);
-    void thinOlderHalf();
-    size_t keepExtremes(size_t first, size_t kept);
-    void rebuildBlocks(size_t firstSample);
-    size_t scan(size_t first, qint64 endUs, Extremes &extremes) const;
-    void addColumn(size_t first, size_t end, Extremes extremes, std::vector<Sample> &line) const;
+    void truncate(const Iterator &place);
+    void thinNext();
+    Iterator scan(Iterator from, qint64 endUs, Extremes &extremes) const;
 
     size_t capacity;
-    std::vector<Sample> samples; ///< In the order of time.
-    std::vector<Block> blocks; ///< Of each blockSize samples; the last may be of fewer.
+    size_t runSize; ///< No run has more samples.
+    std::vector<SampleRun> runs; ///< In the order of time; none is empty.
+    size_t count = 0;
+    size_t nextToThin = 0; ///< The number of a run.
 };
 
 } // namespace corvane

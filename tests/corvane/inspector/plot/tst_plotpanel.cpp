@@ -107,9 +107,10 @@ public:
         return false;
     }
 
-    const std::vector<Sample> &samples(size_t number) const
+    std::vector<Sample> samples(size_t number) const
     {
-        return panel.getSeries().at(number)->getStore().getSamples();
+        const SampleStore &store = panel.getSeries().at(number)->getStore();
+        return {store.begin(), store.end()};
     }
 
     TestFormat format{QStringLiteral("Demo"), QLatin1String(types)};

@@ -68,7 +68,7 @@ public:
     QString samples() const
     {
         QStringList texts;
-        for (const Sample &sample : series.getStore().getSamples())
+        for (const Sample &sample : series.getStore())
             texts += sample.isGap() ? QStringLiteral("-") : QString::number(sample.value);
         return texts.join(QLatin1Char(' '));
     }
@@ -113,7 +113,7 @@ void tst_plotseries::values_becomeSamples()
     fixture.send("Position{height: 1.5}", 10);
     fixture.send("Position{height: -2}", 20);
     QCOMPARE(fixture.samples(), "1.5 -2");
-    QCOMPARE(fixture.series.getStore().getSamples().back().timeUs, 20);
+    QCOMPARE(fixture.series.getStore().back().timeUs, 20);
     QCOMPARE(fixture.series.getStateText(), "Received");
     QCOMPARE(fixture.series.getUnit(), "m");
     QCOMPARE(fixture.series.getName(), "Position.height");
@@ -158,8 +158,8 @@ void tst_plotseries::values_ofEveryNumericType()
     QFETCH(double, value);
     Fixture fixture(field);
     fixture.send(message);
-    QCOMPARE(fixture.series.getStore().getSamples().size(), 1U);
-    QCOMPARE(fixture.series.getStore().getSamples().front().value, value);
+    QCOMPARE(fixture.series.getStore().size(), 1U);
+    QCOMPARE(fixture.series.getStore().front().value, value);
 }
 
 void tst_plotseries::lastValue_isReadAsPeopleRead()

@@ -420,7 +420,7 @@ void tst_plotview::paused_standsStill()
     shown.view.setPaused(false);
     shown.draw();
     QCOMPARE(shown.window(), "70 100");
-    QCOMPARE(shown.series[0]->getStore().getSamples().size(), 51U);
+    QCOMPARE(shown.series[0]->getStore().size(), 51U);
 }
 
 void tst_plotview::png_showsTheLine()

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void unshowableValues_areGaps();
     void full_staysWithinItsBounds();
     void growing_movesNothing();
+    void full_isThinnedLittleByLittle();
+    void lateOnesInAFullRun_areKeptInOrder();
     void full_ofGaps_staysWithinItsBounds();
     void thinning_keepsTheExtremes();
     void thinning_keepsGaps();
@@ -33,6 +35,8 @@ private Q_SLOTS:
     void decimate_fewSamples_areAsTheyAre();
     void decimate_reachesOverTheEdges();
     void decimate_gapBetweenColumns_breaksTheLine();
+    void decimate_columnOfGaps_hasNoValues();
+    void decimate_lastBlockOfGaps_addsNothing();
 };
 
 namespace {
@@ -53,6 +57,11 @@ double valueFrom(std::mt19937 &random)
 {
     const auto value = static_cast<double>(random() % 1000);
     return random() % 20 == 0 ? Sample::gap : value;
+}
+
+std::vector<Sample> samplesOf(const SampleStore &store)
+{
+    return {store.begin(), store.end()};
 }
 
 struct Range
@@ -90,7 +99,7 @@ void compareWithBruteForce(const SampleStore &store, qint64 fromUs, qint64 colum
     QVERIFY(std::is_sorted(line.begin(), line.end(),
                            [](const Sample &a, const Sample &b) { return a.timeUs < b.timeUs; }));
     QVERIFY(rangesOf(line, fromUs, columnUs, columns)
-            == rangesOf(store.getSamples(), fromUs, columnUs, columns));
+            == rangesOf(samplesOf(store), fromUs, columnUs, columns));
 }
 
 } // namespace
@@ -100,9 +109,9 @@ void tst_samplestore::append_keepsTheOrderOfTime()
     SampleStore store;
     for (const qint64 time : {5, 6, 9})
         store.append(time, static_cast<double>(time) / 2);
-    QCOMPARE(textOf(store.getSamples()), "5:2.5 6:3 9:4.5");
+    QCOMPARE(textOf(samplesOf(store)), "5:2.5 6:3 9:4.5");
     store.clear();
-    QVERIFY(store.getSamples().empty());
+    QVERIFY(store.isEmpty());
 }
 
 void tst_samplestore::append_ofTheSameTime_keepsAll()
@@ -112,7 +121,7 @@ void tst_samplestore::append_ofTheSameTime_keepsAll()
     store.append(5, 2);
     store.append(6, 3);
     store.append(5, 4);
-    QCOMPARE(textOf(store.getSamples()), "5:1 5:2 5:4 6:3");
+    QCOMPARE(textOf(samplesOf(store)), "5:1 5:2 5:4 6:3");
 }
 
 void tst_samplestore::late_isPutWhereItBelongs()
@@ -122,10 +131,25 @@ void tst_samplestore::late_isPutWhereItBelongs()
         store.append(i * 1000, i);
     store.append(100'500, -7);
     store.append(199'000 - SampleStore::reorderUs, -9);
-    QCOMPARE(store.getSamples().size(), 202U);
-    QCOMPARE(store.getSamples().front().value, -9.0);
-    QCOMPARE(store.getSamples().at(102).value, -7.0);
+    QCOMPARE(store.size(), 202U);
+    QCOMPARE(store.front().value, -9.0);
+    QCOMPARE(samplesOf(store).at(102).value, -7.0);
     compareWithBruteForce(store, 0, 50'000, 4);
+}
+
+void tst_samplestore::lateOnesInAFullRun_areKeptInOrder()
+{
+    SampleStore store(1000);
+    for (int i = 0; i < 300; ++i)
+        store.append(1000 + i, i);
+    for (int i = 0; i < 300; ++i)
+        store.append(1100, 1000 + i);
+    QCOMPARE(store.size(), 600U);
+    const std::vector<Sample> all = samplesOf(store);
+    QCOMPARE(all.size(), 600U);
+    for (size_t i = 0; i < 300; ++i)
+        QCOMPARE(all.at(101 + i).value, 1000.0 + static_cast<double>(i));
+    compareWithBruteForce(store, 1000, 7, 50);
 }
 
 void tst_samplestore::farBack_beginsANewRun()
@@ -134,7 +158,7 @@ void tst_samplestore::farBack_beginsANewRun()
     for (int i = 0; i <= 200; ++i)
         store.append(i * 100'000, i);
     store.append(150'001, -1);
-    QCOMPARE(textOf(store.getSamples()), "0:0 100000:1 150001:-1");
+    QCOMPARE(textOf(samplesOf(store)), "0:0 100000:1 150001:-1");
     compareWithBruteForce(store, 0, 100'000, 200);
 }
 
@@ -143,7 +167,7 @@ void tst_samplestore::farBack_beforeEverything_startsAnew()
     SampleStore store;
     store.append(5'000'000, 1);
     store.append(1'000'000, 2);
-    QCOMPARE(textOf(store.getSamples()), "1000000:2");
+    QCOMPARE(textOf(samplesOf(store)), "1000000:2");
 }
 
 void tst_samplestore::gaps_areKeptOnce()
@@ -153,7 +177,7 @@ void tst_samplestore::gaps_areKeptOnce()
     store.append(2, Sample::gap);
     store.append(3, Sample::gap);
     store.append(4, 4);
-    QCOMPARE(textOf(store.getSamples()), "1:1 2:- 4:4");
+    QCOMPARE(textOf(samplesOf(store)), "1:1 2:- 4:4");
 }
 
 void tst_samplestore::unshowableValues_areGaps()
@@ -162,7 +186,7 @@ void tst_samplestore::unshowableValues_areGaps()
     store.append(1, std::numeric_limits<double>::infinity());
     store.append(2, 2);
     store.append(3, -1e300);
-    QCOMPARE(textOf(store.getSamples()), "1:- 2:2 3:-");
+    QCOMPARE(textOf(samplesOf(store)), "1:- 2:2 3:-");
 }
 
 void tst_samplestore::full_staysWithinItsBounds()
@@ -170,11 +194,11 @@ void tst_samplestore::full_staysWithinItsBounds()
     SampleStore store(1000);
     for (int i = 0; i < 100'000; ++i) {
         store.append(i, i % 7);
-        QVERIFY(store.getSamples().size() <= 1000);
+        QVERIFY(store.size() <= 1000);
     }
-    QVERIFY(store.getSamples().size() > 500);
-    QVERIFY(store.getSamples().front().timeUs < 10); // the beginning is still there
-    QCOMPARE(store.getSamples().back().timeUs, 99'999);
+    QVERIFY(store.size() > 500);
+    QVERIFY(store.front().timeUs < 10); // the beginning is still there
+    QCOMPARE(store.back().timeUs, 99'999);
 }
 
 void tst_samplestore::growing_movesNothing()
@@ -183,13 +207,25 @@ void tst_samplestore::growing_movesNothing()
     SampleStore store(capacity);
     QCOMPARE(store.getBytes(), size_t(0));
     store.append(0, 0.0);
-    const Sample *first = store.getSamples().data();
-    for (size_t i = 1; i < 3 * capacity; ++i) {
+    const Sample *first = &store.front();
+    for (size_t i = 1; i < capacity; ++i) {
         store.append(static_cast<qint64>(i), 1.0);
-        QCOMPARE(store.getSamples().data(), first);
+        QCOMPARE(&store.front(), first);
     }
-    QVERIFY(store.getBytes() >= store.getSamples().size() * sizeof(Sample));
+    QVERIFY(store.getBytes() >= store.size() * sizeof(Sample));
     QVERIFY(store.getBytes() < capacity * 17);
+}
+
+void tst_samplestore::full_isThinnedLittleByLittle()
+{
+    constexpr size_t capacity = 10'000;
+    SampleStore store(capacity);
+    for (qint64 i = 0; i < 100'000; ++i) {
+        const size_t before = store.size();
+        store.append(i, static_cast<double>(i % 10));
+        QVERIFY(store.size() + capacity / 10 > before);
+    }
+    QVERIFY(store.size() > capacity * 9 / 10);
 }
 
 void tst_samplestore::full_ofGaps_staysWithinItsBounds()
@@ -197,7 +233,7 @@ void tst_samplestore::full_ofGaps_staysWithinItsBounds()
     SampleStore store(0);
     for (int i = 0; i < 1000; ++i) {
         store.append(i, i % 2 == 0 ? i : Sample::gap);
-        QVERIFY(store.getSamples().size() <= SampleStore::minimumCapacity);
+        QVERIFY(store.size() <= SampleStore::minimumCapacity);
     }
 }
 
@@ -206,7 +242,7 @@ void tst_samplestore::thinning_keepsTheExtremes()
     SampleStore store(100);
     for (int i = 0; i < 5000; ++i)
         store.append(i, i == 1234 ? 99.0 : i == 2345 ? -99.0 : std::sin(i));
-    const auto &samples = store.getSamples();
+    const std::vector<Sample> samples = samplesOf(store);
     const auto find = [&](qint64 time, double value) {
         return std::any_of(samples.begin(), samples.end(), [&](const Sample &sample) {
             return sample.timeUs == time && sample.value == value;
@@ -222,7 +258,7 @@ void tst_samplestore::thinning_keepsGaps()
     SampleStore store(24);
     for (int i = 0; i < 30; ++i)
         store.append(i, i == 3 ? Sample::gap : i);
-    QVERIFY(textOf(store.getSamples()).startsWith("0:0 3:- 5:5 6:6 11:11 12:12"));
+    QVERIFY(textOf(samplesOf(store)).startsWith("0:0 3:- 5:5 6:6 11:11 12:12"));
 }
 
 void tst_samplestore::getAt_isTheNewestNotAfter()
@@ -280,7 +316,7 @@ void tst_samplestore::decimate_afterThinningAndLateSamples_equalsBruteForce()
         if (i % 997 == 0)
             compareWithBruteForce(store, 0, 33'333, 600);
     }
-    QVERIFY(store.getSamples().size() <= 3000);
+    QVERIFY(store.size() <= 3000);
 }
 
 void tst_samplestore::decimate_fewSamples_areAsTheyAre()
@@ -290,7 +326,7 @@ void tst_samplestore::decimate_fewSamples_areAsTheyAre()
         store.append(time, static_cast<double>(time));
     std::vector<Sample> line;
     store.decimate(0, 10, 10, line);
-    QCOMPARE(textOf(line), textOf(store.getSamples()));
+    QCOMPARE(textOf(line), textOf(samplesOf(store)));
 }
 
 void tst_samplestore::decimate_reachesOverTheEdges()
@@ -314,6 +350,29 @@ void tst_samplestore::decimate_gapBetweenColumns_breaksTheLine()
     std::vector<Sample> line;
     store.decimate(0, 50, 4, line);
     QCOMPARE(textOf(line), "0:0 5:0 5:9 10:- 100:100 104:100 104:109 109:109");
+}
+
+void tst_samplestore::decimate_columnOfGaps_hasNoValues()
+{
+    SampleStore store;
+    store.append(0, 1);
+    store.append(100, 2);
+    for (int i = 0; i < 8; ++i)
+        store.append(50 + i, Sample::gap);
+    std::vector<Sample> line;
+    store.decimate(0, 25, 5, line);
+    QCOMPARE(textOf(line), "0:1 50:- 57:- 100:2");
+}
+
+void tst_samplestore::decimate_lastBlockOfGaps_addsNothing()
+{
+    SampleStore store;
+    for (int i = 0; i < 32; ++i)
+        store.append(i, i);
+    store.append(32, Sample::gap);
+    std::vector<Sample> line;
+    store.decimate(0, 100, 1, line);
+    QCOMPARE(textOf(line), "0:0 16:0 16:31 32:-");
 }
 
 CORVANE_TEST_MAIN(tst_samplestore)
