@@ -4,8 +4,21 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <ctime>
 
 namespace corvane {
+
+namespace {
+
+/** What the processor has done for this thread so far. */
+qint64 readWorkUs()
+{
+    timespec time{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return qint64(time.tv_sec) * 1'000'000 + time.tv_nsec / 1000;
+}
+
+} // namespace
 
 EventRoundProbe::EventRoundProbe(int slotMs, QObject *parent)
     : QObject(parent)
@@ -21,8 +34,10 @@ EventRoundProbe::EventRoundProbe(int slotMs, QObject *parent)
 
 bool EventRoundProbe::eventFilter(QObject *, QEvent *)
 {
-    if (!round.isValid())
+    if (!round.isValid()) {
+        workBeforeUs = readWorkUs();
         round.start();
+    }
     return false;
 }
 
@@ -33,8 +48,9 @@ void EventRoundProbe::endRound()
     const qint64 us = round.nsecsElapsed() / 1000;
     round.invalidate();
     moveOn();
-    qint64 &longest = longestUs[static_cast<size_t>(slotNumber % slotCount)];
-    longest = std::max(longest, us);
+    Slot &slot = slots[static_cast<size_t>(slotNumber % slotCount)];
+    slot.longestUs = std::max(slot.longestUs, us);
+    slot.mostWorkUs = std::max(slot.mostWorkUs, readWorkUs() - workBeforeUs);
     longestEverUs = std::max(longestEverUs, us);
 }
 
@@ -43,13 +59,25 @@ void EventRoundProbe::moveOn()
 {
     const qint64 now = clock.elapsed() / slotMs;
     for (slotNumber = std::max(slotNumber, now - slotCount); slotNumber < now;)
-        longestUs[static_cast<size_t>(++slotNumber % slotCount)] = 0;
+        slots[static_cast<size_t>(++slotNumber % slotCount)] = {};
 }
 
 qint64 EventRoundProbe::getLongestUs()
 {
     moveOn();
-    return *std::max_element(longestUs.begin(), longestUs.end());
+    qint64 longest = 0;
+    for (const Slot &slot : slots)
+        longest = std::max(longest, slot.longestUs);
+    return longest;
+}
+
+qint64 EventRoundProbe::getMostWorkUs()
+{
+    moveOn();
+    qint64 most = 0;
+    for (const Slot &slot : slots)
+        most = std::max(most, slot.mostWorkUs);
+    return most;
 }
 
 } // namespace corvane

@@ -25,6 +25,12 @@ public:
     /** The longest round of the last seconds, in microseconds. */
     qint64 getLongestUs();
 
+    /**
+     * The most that was computed in a round of the last seconds, in microseconds of processor time:
+     * without what the round had to wait for the processor, or for another machine that shares it.
+     */
+    qint64 getMostWorkUs();
+
     /** The longest round since the beginning, in microseconds. */
     qint64 getLongestEverUs() const { return longestEverUs; }
 
@@ -32,13 +38,20 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    struct Slot
+    {
+        qint64 longestUs = 0;
+        qint64 mostWorkUs = 0;
+    };
+
     void endRound();
     void moveOn();
 
     int slotMs;
     QElapsedTimer clock;
     QElapsedTimer round; ///< Invalid while there is none.
-    std::array<qint64, slotCount> longestUs{}; ///< Of each slot of time.
+    qint64 workBeforeUs = 0; ///< The round.
+    std::array<Slot, slotCount> slots; ///< Of time.
     qint64 slotNumber = 0; ///< Since the beginning.
     qint64 longestEverUs = 0;
 };

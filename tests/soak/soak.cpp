@@ -1,7 +1,7 @@
 // Runs the inspector's window with all panels open on a source until that ends, and prints a line
 // of figures every few seconds: "seconds kilobytes longest-round-in-microseconds frames
-// kilobytes-of-plotted-samples", and in the end what was received, as JSON. Usage: soak DEFINITIONS
-// SOURCE WATCHED-PATH...
+// kilobytes-of-plotted-samples most-work-of-a-round-in-microseconds", and in the end what was
+// received, as JSON. Usage: soak DEFINITIONS SOURCE WATCHED-PATH...
 
 #include "abstractplotpanel.h"
 #include "eventroundprobe.h"
@@ -25,6 +25,7 @@ using namespace corvane;
 namespace {
 
 constexpr int linesEveryMs = 5000;
+constexpr int standingMs = 500;
 
 qint64 readKilobytes()
 {
@@ -79,14 +80,18 @@ int main(int argc, char *argv[])
     QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
     MainWindow window(session, settings);
     showEverything(window, arguments.mid(3));
+    // People see the window before the first message comes.
+    QElapsedTimer clock;
+    for (clock.start(); clock.elapsed() < standingMs;)
+        QApplication::processEvents(QEventLoop::AllEvents, standingMs);
 
     EventRoundProbe probe(linesEveryMs / EventRoundProbe::slotCount);
-    QElapsedTimer clock;
     clock.start();
     const auto printLine = [&] {
-        std::printf("%.0f %lld %lld %llu %lld\n", static_cast<double>(clock.elapsed()) / 1000,
+        std::printf("%.0f %lld %lld %llu %lld %lld\n", static_cast<double>(clock.elapsed()) / 1000,
                     readKilobytes(), probe.getLongestUs(),
-                    session.getReception().getTotals().frames, readPlotKilobytes(window));
+                    session.getReception().getTotals().frames, readPlotKilobytes(window),
+                    probe.getMostWorkUs());
         std::fflush(stdout);
     };
     QTimer timer;
@@ -96,7 +101,7 @@ int main(int argc, char *argv[])
                      Qt::QueuedConnection);
     QObject::connect(&session, &Session::failed, &application, &QApplication::quit,
                      Qt::QueuedConnection);
-    session.start(options);
+    QTimer::singleShot(0, &session, [&] { session.start(options); });
     QApplication::exec();
     printLine();
     const ReportedEffort effort{static_cast<double>(clock.elapsed()) / 1000,

@@ -22,7 +22,6 @@ namespace {
 constexpr double zoomStep = 0.8;
 constexpr double panStep = 0.1;
 constexpr double secondsPerUs = 1e-6;
-constexpr double valueMargin = 0.05;
 // Smooth lines are slow; many points hide the steps of the others.
 constexpr size_t maximumSmoothPoints = 6000;
 constexpr double imageScale = 2.0;
@@ -30,11 +29,6 @@ constexpr double imageScale = 2.0;
 double secondsOf(qint64 timeUs)
 {
     return static_cast<double>(timeUs) * secondsPerUs;
-}
-
-QCPAxis::AxisType axisTypeOf(PlotSeries::Side side)
-{
-    return side == PlotSeries::Side::Left ? QCPAxis::atLeft : QCPAxis::atRight;
 }
 
 QString timeFormatFor(qint64 spanUs)
@@ -45,20 +39,12 @@ QString timeFormatFor(qint64 spanUs)
     return spanUs < 24 * hourUs ? QStringLiteral("HH:mm:ss") : QStringLiteral("yyyy-MM-dd\nHH:mm");
 }
 
-QCPRange withMargin(const QCPRange &range)
-{
-    const double size = range.size();
-    // A constant value lies in the middle of a range that it can be read in.
-    const double margin
-        = size > 0 ? size * valueMargin : std::max(std::abs(range.lower) * valueMargin, 0.5);
-    return {range.lower - margin, range.upper + margin};
-}
-
 } // namespace
 
 PlotView::PlotView(const PlotSeriesList &series, QWidget *parent)
     : QCustomPlot(parent)
     , series(series)
+    , axes(*this, series)
     , cursorLine(new QCPItemStraightLine(this))
     , timeTicker(new QCPAxisTickerDateTime)
 {
@@ -103,12 +89,10 @@ void PlotView::createPlaceholder()
 void PlotView::rebuild()
 {
     clearGraphs();
-    removeAxes();
-    axisOfSeries.clear();
-    for (const auto &one : series) {
-        ValueAxis &axis = axisFor(*one);
-        axisOfSeries.push_back(static_cast<size_t>(&axis - axes.data()));
-        QCPGraph *graph = addGraph(xAxis, axis.axis);
+    axes.rebuild();
+    for (size_t i = 0; i < series.size(); ++i) {
+        const auto &one = series[i];
+        QCPGraph *graph = addGraph(xAxis, axes.getAxisOf(i));
         graph->setName(one->getUnit().isEmpty()
                            ? one->getName()
                            : tr("%1 [%2]").arg(one->getName(), one->getUnit()));
@@ -120,65 +104,12 @@ void PlotView::rebuild()
     requestRefresh();
 }
 
-void PlotView::removeAxes()
-{
-    for (const ValueAxis &axis : axes)
-        if (axis.axis != yAxis && axis.axis != yAxis2)
-            axisRect()->removeAxis(axis.axis);
-    axes.clear();
-    yAxis2->setVisible(false);
-}
-
-PlotView::ValueAxis &PlotView::axisFor(const PlotSeries &one)
-{
-    const QString unit = axisPerUnit ? one.getUnit() : QString();
-    for (ValueAxis &axis : axes)
-        if (axis.side == one.getSide() && axis.unit == unit)
-            return axis;
-    axes.push_back({takeAxis(one.getSide()), one.getSide(), unit, {}, false});
-    return axes.back();
-}
-
-/** The axis of the plot at that side, or a new one if it is in use. */
-QCPAxis *PlotView::takeAxis(PlotSeries::Side side)
-{
-    QCPAxis *first = side == PlotSeries::Side::Left ? yAxis : yAxis2;
-    const bool isTaken = std::any_of(axes.begin(), axes.end(),
-                                     [first](const ValueAxis &axis) { return axis.axis == first; });
-    QCPAxis *axis = isTaken ? axisRect()->addAxis(axisTypeOf(side)) : first;
-    axis->setVisible(true);
-    axis->setTickLabels(true);
-    return axis;
-}
-
-/** By unit, or by name where there is none; an axis of one series has its colour. */
-void PlotView::labelAxes()
-{
-    yAxis->setLabel({});
-    for (size_t i = 0; i < axes.size(); ++i) {
-        QStringList texts;
-        std::vector<const PlotSeries *> users;
-        for (size_t number = 0; number < series.size(); ++number) {
-            const PlotSeries &one = *series[number];
-            if (axisOfSeries[number] != i || one.getType() == nullptr)
-                continue;
-            users.push_back(&one);
-            texts += one.getUnit().isEmpty() ? one.getName() : one.getUnit();
-        }
-        texts.removeDuplicates();
-        const QString label = texts.join(QStringLiteral(", "));
-        axes[i].axis->setLabel(fontMetrics().elidedText(label, Qt::ElideLeft, height() * 2 / 3));
-        if (users.size() == 1)
-            axes[i].axis->setBasePen(users.front()->getPen());
-    }
-}
-
 void PlotView::applyPalette()
 {
     setBackground(palette().brush(QPalette::Base));
     for (QCPAxis *axis : axisRect()->axes())
         styleAxis(axis);
-    labelAxes();
+    axes.label();
     cursorLine->setPen(QPen(palette().color(QPalette::Highlight), 1));
     legend->setBrush(palette().brush(QPalette::Base));
     legend->setBorderPen(QPen(palette().color(QPalette::Mid)));
@@ -218,7 +149,7 @@ void PlotView::setPaused(bool pause)
 
 void PlotView::setAxisPerUnit(bool perUnit)
 {
-    axisPerUnit = perUnit;
+    axes.setPerUnit(perUnit);
     rebuild();
 }
 
@@ -233,15 +164,13 @@ void PlotView::refresh()
     timeTicker->setTickCount(std::max(1, axisRect()->width() / widthOfTime()));
     if (pointerX)
         cursorUs = timeAt(*pointerX);
-    for (ValueAxis &axis : axes)
-        axis.hasValues = false;
+    axes.beginValues();
     size_t points = 0;
     for (size_t i = 0; i < series.size(); ++i) {
-        fillGraph(*series[i], graph(static_cast<int>(i)), axes[axisOfSeries[i]]);
+        fillGraph(i);
         points += line.size();
     }
-    if (fitting)
-        fitAxes();
+    axes.endValues();
     chooseDrawing(points);
     placeCursor();
     refreshPlaceholder();
@@ -256,8 +185,9 @@ int PlotView::widthOfTime() const
     return fontMetrics().horizontalAdvance(QStringLiteral("00:00:00.000")) * 3 / 2;
 }
 
-void PlotView::fillGraph(const PlotSeries &one, QCPGraph *graph, ValueAxis &axis)
+void PlotView::fillGraph(size_t seriesNumber)
 {
+    const PlotSeries &one = *series[seriesNumber];
     line.clear();
     const int pixels = std::max(1, qRound(axisRect()->width() * devicePixelRatioF()));
     // Columns that begin at whole multiples of their width, or the line would flicker in motion.
@@ -271,20 +201,10 @@ void PlotView::fillGraph(const PlotSeries &one, QCPGraph *graph, ValueAxis &axis
     data.reserve(static_cast<qsizetype>(line.size()));
     for (const Sample &sample : line) {
         data.append({secondsOf(sample.timeUs), sample.value});
-        if (sample.isGap())
-            continue;
-        if (!std::exchange(axis.hasValues, true))
-            axis.shown = {sample.value, sample.value};
-        axis.shown.expand(sample.value);
+        if (!sample.isGap())
+            axes.addValue(seriesNumber, sample.value);
     }
-    graph->data()->set(data, true);
-}
-
-void PlotView::fitAxes()
-{
-    for (const ValueAxis &axis : axes)
-        if (axis.hasValues)
-            axis.axis->setRange(withMargin(axis.shown));
+    graph(static_cast<int>(seriesNumber))->data()->set(data, true);
 }
 
 void PlotView::chooseDrawing(size_t points)
@@ -378,17 +298,13 @@ void PlotView::showAll()
 
 void PlotView::panValues(double ranges)
 {
-    fitting = false;
-    for (const ValueAxis &axis : axes)
-        axis.axis->moveRange(axis.axis->range().size() * ranges);
+    axes.move(ranges);
     requestRefresh();
 }
 
 void PlotView::zoomValues(double factor)
 {
-    fitting = false;
-    for (const ValueAxis &axis : axes)
-        axis.axis->scaleRange(factor);
+    axes.scale(factor);
     requestRefresh();
 }
 
@@ -401,7 +317,7 @@ void PlotView::setUtc(bool newUtc)
 
 void PlotView::fitValues()
 {
-    fitting = true;
+    axes.fit();
     requestRefresh();
 }
 
@@ -429,7 +345,7 @@ QString PlotView::getStateText() const
                                         : tr("Standing still, %1 s").arg(seconds);
     if (paused)
         text = tr("Paused, values are kept; %1 s").arg(seconds);
-    if (!fitting)
+    if (!axes.isFitting())
         text += tr("; value axes as set by hand");
     if (cursorUs) {
         const auto time
@@ -518,7 +434,7 @@ void PlotView::showEvent(QShowEvent *event)
 void PlotView::resizeEvent(QResizeEvent *event)
 {
     QCustomPlot::resizeEvent(event);
-    labelAxes();
+    axes.label();
     requestRefresh();
 }
 

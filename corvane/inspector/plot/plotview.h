@@ -3,6 +3,7 @@
 #include "customplot.h"
 #include "plotseries.h"
 #include "timewindow.h"
+#include "valueaxes.h"
 
 #include <QTimer>
 
@@ -94,26 +95,12 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    struct ValueAxis
-    {
-        QCPAxis *axis; ///< Owned by the plot.
-        PlotSeries::Side side;
-        QString unit;
-        QCPRange shown; ///< Of the values that are shown; empty while there are none.
-        bool hasValues = false;
-    };
-
     void createTimeAxis();
     void createPlaceholder();
-    ValueAxis &axisFor(const PlotSeries &one);
-    QCPAxis *takeAxis(PlotSeries::Side side);
-    void removeAxes();
-    void labelAxes();
     void applyPalette();
     void styleAxis(QCPAxis *axis);
     int widthOfTime() const;
-    void fillGraph(const PlotSeries &one, QCPGraph *graph, ValueAxis &axis);
-    void fitAxes();
+    void fillGraph(size_t seriesNumber);
     void chooseDrawing(size_t points);
     void placeCursor();
     void refreshPlaceholder();
@@ -127,10 +114,7 @@ private:
     TimeWindow window;
     bool paused = false;
     bool utc = false;
-    bool axisPerUnit = true;
-    bool fitting = true;
-    std::vector<ValueAxis> axes;
-    std::vector<size_t> axisOfSeries; ///< Of each series, its index in axes.
+    ValueAxes axes;
     std::vector<Sample> line; ///< Kept, so that drawing allocates little.
     std::optional<qint64> cursorUs;
     std::optional<double> pointerX; ///< While the mouse is over the picture.

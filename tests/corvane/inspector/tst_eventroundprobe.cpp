@@ -5,6 +5,8 @@
 #include <QThread>
 #include <QTimer>
 
+#include <ctime>
+
 using namespace corvane;
 using namespace corvane::test;
 
@@ -18,6 +20,7 @@ private Q_SLOTS:
     void severalEventsOfOneRound_areAdded();
     void longAgo_isForgotten();
     void longestEver_isKept();
+    void work_isWithoutWaiting();
 };
 
 namespace {
@@ -74,6 +77,23 @@ void tst_eventroundprobe::longestEver_isKept()
     QTRY_VERIFY(probe.getLongestEverUs() >= busyUs);
     QTest::qWait(300);
     QVERIFY(probe.getLongestEverUs() >= busyUs);
+}
+
+void tst_eventroundprobe::work_isWithoutWaiting()
+{
+    EventRoundProbe probe(10'000);
+    beBusySoon();
+    QTRY_VERIFY(probe.getLongestUs() >= busyUs);
+    QVERIFY(probe.getMostWorkUs() < busyUs / 2);
+    QMetaObject::invokeMethod(
+        this,
+        [] {
+            const std::clock_t start = std::clock();
+            while (std::clock() - start < CLOCKS_PER_SEC / 20)
+                ;
+        },
+        Qt::QueuedConnection);
+    QTRY_VERIFY(probe.getMostWorkUs() >= 40'000);
 }
 
 CORVANE_TEST_MAIN(tst_eventroundprobe)
