@@ -80,6 +80,8 @@ void FormPanel::changeEvent(QEvent *event)
 
 void FormPanel::showType(const MessageInfo *newType)
 {
+    if (newType != nullptr && newType == type)
+        return showLatest();
     if (newType != nullptr)
         setContent(newType->getName(), newType->getData()->description, newType);
     else

@@ -10,6 +10,20 @@
 #include <QGridLayout>
 #include <QLabel>
 
+namespace {
+
+/** Once for all: else each would be shown later by itself, and all be laid out each time. */
+void showLabels(const QWidget &form, QLayout &layout)
+{
+    layout.setEnabled(false);
+    for (QLabel *label : form.findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly))
+        label->show();
+    layout.setEnabled(true);
+    layout.activate();
+}
+
+} // namespace
+
 MessageWidget::MessageWidget(QWidget *parent, const MessageInfo *messageInfo)
     : QWidget(parent)
 {
@@ -61,6 +75,8 @@ void MessageWidget::createRows()
         labels.append(valueLabel);
         ++row;
     }
+    if (isVisible())
+        showLabels(*this, *gridLayout);
 }
 
 void MessageWidget::displayMessage(const Message *message)

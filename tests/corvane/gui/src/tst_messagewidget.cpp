@@ -76,6 +76,7 @@ private Q_SLOTS:
     void setMessageInfo_removesEveryDirectChild();
     void displayMessage_fillsRows();
     void displayMessage_otherType_rebuilds();
+    void displayMessage_otherType_whileVisible_showsRowsAtOnce();
     void displayMessage_null_empties();
     void displayMessage_sameType_keepsRows();
     void processMessage_ofType_fillsRows();
@@ -260,6 +261,22 @@ void TestMessageWidget::displayMessage_otherType_rebuilds()
     QCOMPARE(form.getMessageInfo(), format.type("Attitude"));
     QCOMPARE(form.windowTitle(), "Attitude");
     QCOMPARE(rowsOf(form), QStringList({"mode | Auto"}));
+}
+
+void TestMessageWidget::displayMessage_otherType_whileVisible_showsRowsAtOnce()
+{
+    const TestFormat format("Demo", types);
+    MessageWidget form(nullptr, format.type("Attitude"));
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    form.displayMessage(format.message("Position{zone: 7}"));
+    int bottom = -1;
+    for (const QLabel *label : form.findChildren<QLabel *>()) {
+        QVERIFY(label->isVisible());
+        QVERIFY(label->height() > 0);
+        bottom = qMax(bottom, label->geometry().bottom());
+    }
+    QVERIFY(bottom > form.findChildren<QLabel *>().constFirst()->geometry().bottom());
 }
 
 void TestMessageWidget::displayMessage_null_empties()
