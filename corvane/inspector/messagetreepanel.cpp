@@ -391,8 +391,7 @@ void MessageTreePanel::refreshRowState()
     QString text = SteadyTreeWidget::shortened(
         describeRow(tree->currentItem()).join(QStringLiteral("  ·  ")));
     if (text.isEmpty() && tree->topLevelItemCount() > 0)
-        text = tr("Choose a row to read about it here, and press the right mouse button or the "
-                  "menu key for what can be done with it.");
+        text = tr("Choose a row to read about it. A right click offers more.");
     text = SteadyTreeWidget::shortened(text);
     if (text == rowState->text())
         return;

@@ -25,6 +25,7 @@ namespace {
 
 constexpr QSize usualSize(1400, 860);
 constexpr QSize smallSize(800, 500);
+constexpr QSize largeSize(3840, 2160); // in pixels of the screen
 
 QPalette darkPalette()
 {
@@ -94,6 +95,8 @@ void takePanels(MainWindow &window, const Photographer &photographer)
         }
     window.resize(smallSize);
     photographer.take(window, QStringLiteral("small"));
+    window.resize(largeSize / window.devicePixelRatioF());
+    photographer.take(window, QStringLiteral("large"));
     window.resize(usualSize);
     for (QAction *action : window.findChildren<QAction *>())
         if (action->shortcut() == QKeySequence(QKeySequence::HelpContents))

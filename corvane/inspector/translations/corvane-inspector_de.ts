@@ -823,8 +823,8 @@ Protocol Buffers %3</translation>
         <translation>Noch ist keine Nachricht gekommen. Jeder Nachrichtentyp bekommt seine Zeile mit seiner ersten Nachricht. Das Menü „Zeigen“ führt alle %1 bekannten Typen auf, mit oder ohne Nachrichten.</translation>
     </message>
     <message>
-        <source>Choose a row to read about it here, and press the right mouse button or the menu key for what can be done with it.</source>
-        <translation>Wählen Sie eine Zeile, um hier über sie zu lesen, und drücken Sie die rechte Maustaste oder die Menütaste für das, was mit ihr getan werden kann.</translation>
+        <source>Choose a row to read about it. A right click offers more.</source>
+        <translation>Wählen Sie eine Zeile, um über sie zu lesen. Ein Rechtsklick bietet mehr.</translation>
     </message>
 </context>
 <context>

@@ -823,8 +823,8 @@ Protocol Buffers %3</translation>
         <translation>Aún no ha llegado ningún mensaje. Cada tipo de mensaje recibe su fila con su primer mensaje. El menú «Mostrar» enumera los %1 tipos conocidos, con mensajes o sin ellos.</translation>
     </message>
     <message>
-        <source>Choose a row to read about it here, and press the right mouse button or the menu key for what can be done with it.</source>
-        <translation>Elija una fila para leer aquí sobre ella, y pulse el botón derecho del ratón o la tecla de menú para lo que se puede hacer con ella.</translation>
+        <source>Choose a row to read about it. A right click offers more.</source>
+        <translation>Elija una fila para leer sobre ella. El clic derecho ofrece más.</translation>
     </message>
 </context>
 <context>

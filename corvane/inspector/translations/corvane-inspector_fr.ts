@@ -823,8 +823,8 @@ Protocol Buffers %3</translation>
         <translation>Aucun message n’est encore arrivé. Chaque type de message reçoit sa ligne avec son premier message. Le menu «&#xa0;Afficher&#xa0;» énumère les %1 types connus, avec ou sans messages.</translation>
     </message>
     <message>
-        <source>Choose a row to read about it here, and press the right mouse button or the menu key for what can be done with it.</source>
-        <translation>Choisissez une ligne pour lire ici ce qui la concerne, et appuyez sur le bouton droit de la souris ou la touche de menu pour ce qu’on peut en faire.</translation>
+        <source>Choose a row to read about it. A right click offers more.</source>
+        <translation>Choisissez une ligne pour lire à son sujet. Un clic droit en offre plus.</translation>
     </message>
 </context>
 <context>

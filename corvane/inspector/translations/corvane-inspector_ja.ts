@@ -823,8 +823,8 @@ Protocol Buffers %3</translation>
         <translation>まだメッセージが届いていません。各メッセージ型は最初のメッセージで行を得ます。メニュー「表示」は、メッセージの有無にかかわらず既知の %1 個の型をすべて並べます。</translation>
     </message>
     <message>
-        <source>Choose a row to read about it here, and press the right mouse button or the menu key for what can be done with it.</source>
-        <translation>行を選ぶとここに説明が出ます。右クリックまたはメニューキーで、その行にできることが出ます。</translation>
+        <source>Choose a row to read about it. A right click offers more.</source>
+        <translation>行を選ぶと説明が出ます。右クリックでさらに操作できます。</translation>
     </message>
 </context>
 <context>

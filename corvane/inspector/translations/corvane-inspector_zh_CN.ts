@@ -823,8 +823,8 @@ Protocol Buffers %3</translation>
         <translation>尚未收到消息。每种消息类型在收到第一条消息时获得自己的行。“显示”菜单可列出全部 %1 种已知类型，无论有无消息。</translation>
     </message>
     <message>
-        <source>Choose a row to read about it here, and press the right mouse button or the menu key for what can be done with it.</source>
-        <translation>选择一行以在此阅读其说明，按鼠标右键或菜单键查看可对其执行的操作。</translation>
+        <source>Choose a row to read about it. A right click offers more.</source>
+        <translation>选择一行以阅读其说明。右键单击可执行更多操作。</translation>
     </message>
 </context>
 <context>
