@@ -1,6 +1,6 @@
 # The headers of Qt and of the standard library are most of what the compiler reads; reading them
 # once takes a third off a build. They are those of other projects only, and each source still
-# includes what it uses: the bench preset and the lint compile without this.
+# includes what it uses: the lint compiles without this.
 option(CORVANE_PRECOMPILE_HEADERS "Precompile the headers of Qt and of the standard library" ON)
 
 # For all that `target` links: whether that is `wanted`.

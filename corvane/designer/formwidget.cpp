@@ -37,7 +37,12 @@ QString FormWidget::includeFile() const
 
 QIcon FormWidget::icon() const
 {
-    return QIcon(QLatin1String(description.icon));
+    const QIcon drawing(QLatin1String(description.icon));
+    // Designer passes over icons that tell no sizes, as a drawing does not.
+    QIcon pictures;
+    for (const int size : {22, 44})
+        pictures.addPixmap(drawing.pixmap(QSize(size, size), 1.0));
+    return pictures;
 }
 
 bool FormWidget::isContainer() const

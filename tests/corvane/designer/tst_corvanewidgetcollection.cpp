@@ -106,6 +106,7 @@ void TestCorvaneWidgetCollection::describesEachWidget()
         QVERIFY2(widget->toolTip().size() > 10, qPrintable(widget->name()));
         QVERIFY(!widget->isContainer());
 
+        QVERIFY2(!widget->icon().availableSizes().isEmpty(), qPrintable(widget->name()));
         const QImage picture = widget->icon().pixmap(22, 22).toImage();
         QVERIFY2(!picture.isNull(), qPrintable(widget->name()));
         QVERIFY2(picture != QImage(picture.size(), picture.format()), qPrintable(widget->name()));
