@@ -200,7 +200,7 @@ void tst_messagetreepanel::currentRow_isDescribedBelow()
         return false;
     };
     shown.source.send("Position{height: 2}");
-    QTRY_VERIFY(says("what can be done with it."));
+    QTRY_VERIFY(says("A right click offers more."));
     shown.tree()->setCurrentItem(shown.tree()->topLevelItem(0)->child(3));
     QTRY_VERIFY(says("Empty in the newest message."));
     shown.source.send("Position{sats: [{state: Good}]}");

@@ -1,4 +1,5 @@
 #include "abstractplotpanel.h"
+#include "latestmessages.h"
 #include "messagetreewidget.h"
 #include "senderchooser.h"
 #include "senderspanel.h"
@@ -37,8 +38,11 @@ class Scene : public ShownWindow
 public:
     Scene()
     {
-        [[maybe_unused]] const bool isRead
-            = QTest::qWaitFor([this] { return chooser()->count() == 3 && chooser()->isVisible(); });
+        [[maybe_unused]] const bool isRead = QTest::qWaitFor([this] {
+            return chooser()->count() == 3 && chooser()->isVisible()
+                   && session.getReception().getTotals().frames == 1737;
+        });
+        QTest::qWait(3 * LatestMessages::frameMs); // the views have the last ones, too
     }
 
     SenderChooser *chooser() const { return window->findChild<SenderChooser *>(); }

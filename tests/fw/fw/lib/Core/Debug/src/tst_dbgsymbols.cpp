@@ -86,8 +86,10 @@ private Q_SLOTS:
 
 void TestDbgSymbols::unmangledNames_areTheInterface()
 {
-    // Names that begin with _ are mangled or the linker's, or the run-time of a sanitizer.
-    const QStringList found = exportedNames({}).filter(QRegularExpression("^[^_]"));
+    // Names that begin with _ are mangled or the linker's, or the run-time of a sanitizer; and gcov,
+    // which counts lines, has one without.
+    QStringList found = exportedNames({}).filter(QRegularExpression("^[^_]"));
+    found.removeOne("mangle_path");
     QCOMPARE(found, unmangledNames);
 }
 
