@@ -22,10 +22,11 @@ public:
 
     /** To be called when series were added or removed, or their units or sides changed. */
     void rebuild();
+
     /** The axis of the series with that number; owned by the plot. */
     QCPAxis *getAxisOf(size_t seriesNumber) const { return axes[axisOfSeries[seriesNumber]].axis; }
 
-    /** Names each by unit, or by series where there is none; an axis of one series has its colour. */
+    /** Names each by unit, or by series where there is none; one of one series has its colour. */
     void label();
 
     /** From here on what is shown is told anew. */

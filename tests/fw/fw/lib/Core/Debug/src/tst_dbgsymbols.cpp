@@ -86,8 +86,8 @@ private Q_SLOTS:
 
 void TestDbgSymbols::unmangledNames_areTheInterface()
 {
-    // Names that begin with _ are mangled or the linker's, or the run-time of a sanitizer; and gcov,
-    // which counts lines, has one without.
+    // Names that begin with _ are mangled or the linker's, or the run-time of a sanitizer; and
+    // gcov, which counts lines, has one without.
     QStringList found = exportedNames({}).filter(QRegularExpression("^[^_]"));
     found.removeOne("mangle_path");
     QCOMPARE(found, unmangledNames);
