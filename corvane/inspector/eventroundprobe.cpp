@@ -64,20 +64,21 @@ void EventRoundProbe::moveOn()
 
 qint64 EventRoundProbe::getLongestUs()
 {
-    moveOn();
-    qint64 longest = 0;
-    for (const Slot &slot : slots)
-        longest = std::max(longest, slot.longestUs);
-    return longest;
+    return getLargest(&Slot::longestUs);
 }
 
 qint64 EventRoundProbe::getMostWorkUs()
 {
+    return getLargest(&Slot::mostWorkUs);
+}
+
+qint64 EventRoundProbe::getLargest(qint64 Slot::*figure)
+{
     moveOn();
-    qint64 most = 0;
+    qint64 largest = 0;
     for (const Slot &slot : slots)
-        most = std::max(most, slot.mostWorkUs);
-    return most;
+        largest = std::max(largest, slot.*figure);
+    return largest;
 }
 
 } // namespace corvane

@@ -46,6 +46,7 @@ private:
 
     void endRound();
     void moveOn();
+    qint64 getLargest(qint64 Slot::*figure);
 
     int slotMs;
     QElapsedTimer clock;
