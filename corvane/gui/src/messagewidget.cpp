@@ -13,11 +13,11 @@
 namespace {
 
 /** Once for all: else each would be shown later by itself, and all be laid out each time. */
-void showLabels(const QWidget &form, QLayout &layout)
+void showLabels(QLayout &layout)
 {
     layout.setEnabled(false);
-    for (QLabel *label : form.findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly))
-        label->show();
+    for (int i = 0; i < layout.count(); ++i)
+        layout.itemAt(i)->widget()->show();
     layout.setEnabled(true);
     layout.activate();
 }
@@ -76,7 +76,7 @@ void MessageWidget::createRows()
         ++row;
     }
     if (isVisible())
-        showLabels(*this, *gridLayout);
+        showLabels(*gridLayout);
 }
 
 void MessageWidget::displayMessage(const Message *message)
