@@ -10,7 +10,7 @@ namespace corvane {
 MessageStatisticsData &
 MessageStatisticsCoordinatorData::add(std::unique_ptr<MessageStatisticsData> data)
 {
-    data->clock = &clock;
+    data->stream = &stream;
     all.push_back(std::make_unique<MessageStatistics>(std::move(data)));
     list.append(all.back().get());
     return *all.back()->getData();

@@ -28,12 +28,25 @@ MessageStatisticsData::Sender *MessageStatisticsData::findSender(quint32 id)
         return &senders[latestSender];
     const auto found = std::find_if(senders.begin(), senders.end(),
                                     [&](const Sender &sender) { return sender.id == id; });
-    if (found == senders.end() && senders.size() == maximumSenders)
+    if (found == senders.end() && !takeRoom())
         return nullptr;
     latestSender = static_cast<size_t>(found - senders.begin());
     if (found == senders.end())
         senders.push_back({id, Rhythm::noTime, {}});
     return &senders[latestSender];
+}
+
+/** Whether there is room for one more sender, which is then counted. */
+bool MessageStatisticsData::takeRoom()
+{
+    if (senders.size() == maximumSenders)
+        return false;
+    if (message != nullptr)
+        return true;
+    if (stream->unknownSenders == maximumUnknownSenders)
+        return false;
+    ++stream->unknownSenders;
+    return true;
 }
 
 void MessageStatisticsData::interrupt()
@@ -65,7 +78,7 @@ bool MessageStatisticsData::isActive(const Sender &sender) const
     if (sender.latestUs == Rhythm::noTime)
         return true;
     const double silenceUs
-        = static_cast<double>(clock->latestUs) - static_cast<double>(sender.latestUs);
+        = static_cast<double>(stream->latestUs) - static_cast<double>(sender.latestUs);
     return silenceUs <= std::max(longestSilence * sender.rhythm.getPeriodUs(), shortestSilenceUs);
 }
 

@@ -29,10 +29,12 @@ Result saturated(quint64 count)
         std::min<quint64>(count, static_cast<quint64>(std::numeric_limits<Result>::max())));
 }
 
-/** The time of the latest frame of a stream, whatever its type; not what a message says itself. */
-struct StreamClock
+/** What the statistics of all types of a stream share. */
+struct StreamState
 {
+    /** The time of the latest frame, whatever its type; not what a message says itself. */
     qint64 latestUs = Rhythm::noTime;
+    size_t unknownSenders = 0; ///< Senders of all unknown message ids together.
 };
 
 /** What is counted for one MessageStatistics. */
@@ -48,6 +50,9 @@ struct CORVANEFRAMEWORK_EXPORT MessageStatisticsData
 
     /** Messages of further senders are counted, but not their intervals. */
     static constexpr size_t maximumSenders = 64;
+    /** The same for the unknown ids of a stream together: noise names ever more senders for them.
+     */
+    static constexpr size_t maximumUnknownSenders = 64;
 
     /** Counts one good message. */
     void count(const FrameHeader &frame);
@@ -58,7 +63,7 @@ struct CORVANEFRAMEWORK_EXPORT MessageStatisticsData
 
     const FormatInfo *format = nullptr; ///< Not owned.
     const MessageInfo *message = nullptr; ///< Not owned; null for an unknown message id.
-    const StreamClock *clock = nullptr; ///< Not owned.
+    StreamState *stream = nullptr; ///< Not owned.
     QString name;
     quint64 received = 0;
     quint64 withUnknownTime = 0;
@@ -69,6 +74,7 @@ struct CORVANEFRAMEWORK_EXPORT MessageStatisticsData
 
 private:
     Sender *findSender(quint32 id);
+    bool takeRoom();
     bool isActive(const Sender &sender) const;
 };
 
@@ -92,7 +98,7 @@ public:
     std::vector<std::unique_ptr<MessageStatistics>> all;
     QList<MessageStatistics *> list; ///< The same; views ask for it once for each of their rows.
     std::array<quint64, 16> eventCounts{};
-    StreamClock clock;
+    StreamState stream;
 
 private:
     MessageStatisticsData &addFor(const MessageInfo *message);

@@ -131,7 +131,7 @@ void Reception::noteEvent(EventKind kind,
 void Reception::countIn(MessageStatisticsData &type, const FrameHeader &frame)
 {
     if (frame.timeUs != Rhythm::noTime)
-        statistics.getData()->clock.latestUs = frame.timeUs;
+        statistics.getData()->stream.latestUs = frame.timeUs;
     type.count(frame);
 }
 

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void unknownFrames_areCountedAndLogged();
     void unknownFrames_useUpSequenceNumbers();
     void unknownFrames_ofTooManyIds_shareStatistics();
+    void unknownFrames_ofTooManySenders_haveNoIntervals();
     void damagedFrames_areCountedAndLogged();
     void formatWithoutChecksum_hasNoErrorCount();
     void losses_areLoggedPerSender();
@@ -197,6 +198,29 @@ void TestReception::unknownFrames_ofTooManyIds_shareStatistics()
     QCOMPARE(all.size(), 257);
     QCOMPARE(all.constLast()->getMessageName(), "Demo, other unknown ids");
     QCOMPARE(all.constLast()->getCount(), ids - 256);
+}
+
+void TestReception::unknownFrames_ofTooManySenders_haveNoIntervals()
+{
+    Reception reception(format.getInfo(), nameOf, true);
+    constexpr quint32 senders = 40;
+    constexpr quint32 ids = 10;
+    for (qint64 timeUs : {1'000'000, 2'000'000})
+        for (quint32 id = 0; id < ids; ++id)
+            for (quint32 sender = 0; sender < senders; ++sender)
+                reception.receiveUnknownFrame({nullptr, id, sender, std::nullopt, timeUs});
+    reception.receiveFrame({format.type("A"), 7, 1, 0, 3'000'000});
+    reception.receiveFrame({format.type("A"), 7, 1, 1, 4'000'000});
+
+    quint64 intervals = 0;
+    const auto all = reception.getStatistics()->getAllMessageStatistics();
+    for (const MessageStatistics *statistics : all) {
+        const quint32 expected = statistics->getMessageInfo() != nullptr ? 2 : 2 * senders;
+        QCOMPARE(statistics->getCount(), expected);
+        for (const unsigned int count : statistics->getIntervalCountHash())
+            intervals += count;
+    }
+    QCOMPARE(intervals, 64U + 1U); // a described type has room all the same
 }
 
 void TestReception::damagedFrames_areCountedAndLogged()
