@@ -6,7 +6,6 @@
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QMutexLocker>
 #include <QThread>
 
 #include <fcntl.h>
@@ -15,6 +14,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <utility>
 
 namespace corvane {
@@ -22,7 +22,7 @@ namespace corvane {
 namespace {
 
 constexpr qsizetype chunkBytes = 256 * 1024;
-constexpr unsigned long growthIntervalMs = 500;
+constexpr auto growthInterval = std::chrono::milliseconds(500);
 constexpr qint64 progressIntervalMs = 50;
 
 qint64 readSize(int descriptor)
@@ -66,53 +66,54 @@ void FileIndex::cancel()
 {
     if (!thread)
         return;
-    mutex.lock();
-    cancelled = true;
-    cancelling.wakeOne();
-    mutex.unlock();
+    {
+        const std::lock_guard lock(mutex);
+        cancelled = true;
+    }
+    cancelling.notify_one();
     thread->wait();
     thread.reset();
 }
 
 bool FileIndex::isRunning() const
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     return thread && !cancelled && !found.atEnd;
 }
 
 qint64 FileIndex::getIndexedBytes() const
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     return found.indexedBytes;
 }
 
 qint64 FileIndex::getFileSize() const
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     return found.fileSize;
 }
 
 size_t FileIndex::getPlaceCount() const
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     return found.places.size();
 }
 
 std::optional<qint64> FileIndex::getFirstTimeUs() const
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     return found.places.empty() ? std::nullopt : found.places.front().timeUs;
 }
 
 std::optional<qint64> FileIndex::getLastTimeUs() const
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     return found.lastTimeUs;
 }
 
 FileIndex::Place FileIndex::findOffset(qint64 offset) const
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     const auto isBehind = [](qint64 value, const Place &place) { return value < place.offset; };
     const auto next = std::upper_bound(found.places.begin(), found.places.end(), offset, isBehind);
     return next == found.places.begin() ? Place() : *std::prev(next);
@@ -120,7 +121,7 @@ FileIndex::Place FileIndex::findOffset(qint64 offset) const
 
 std::optional<FileIndex::Place> FileIndex::findTime(qint64 timeUs) const
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     if (found.places.empty() || !found.places.front().timeUs)
         return std::nullopt;
     // Times may go back where another recording begins, so this is no binary search.
@@ -150,7 +151,7 @@ void FileIndex::runThread(const QString &path, StreamScanner &scanner)
             if (!waitForGrowth(file.get()))
                 return;
         }
-        const QMutexLocker locker(&mutex);
+        const std::lock_guard lock(mutex);
         if (cancelled)
             return;
         found.fileSize = std::max(readSize(file.get()), found.indexedBytes);
@@ -164,9 +165,9 @@ void FileIndex::runThread(const QString &path, StreamScanner &scanner)
 /** Returns false when there is nothing more to come. */
 bool FileIndex::waitForGrowth(int descriptor)
 {
-    QMutexLocker locker(&mutex);
+    std::unique_lock lock(mutex);
     while (!cancelled && readSize(descriptor) == found.indexedBytes)
-        cancelling.wait(&mutex, growthIntervalMs);
+        cancelling.wait_for(lock, growthInterval);
     // A file that has become shorter is another one.
     found.atEnd = readSize(descriptor) < found.indexedBytes;
     return !cancelled && !found.atEnd;
@@ -182,7 +183,7 @@ void FileIndex::take(StreamScanner &scanner, QByteArrayView bytes)
         newPlaces.push_back(*place);
         next = place->offset + found.distanceBytes;
     }
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     found.places.insert(found.places.end(), newPlaces.begin(), newPlaces.end());
     found.indexedBytes += bytes.size();
     found.lastTimeUs = scanner.getLatestTimeUs();
@@ -196,7 +197,7 @@ void FileIndex::take(StreamScanner &scanner, QByteArrayView bytes)
 
 void FileIndex::tellEnd()
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     found.atEnd = true;
     found.fileSize = found.indexedBytes;
     QMetaObject::invokeMethod(this, &FileIndex::finished, Qt::QueuedConnection);
@@ -204,7 +205,7 @@ void FileIndex::tellEnd()
 
 void FileIndex::tellFailure(const QString &message)
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     found.atEnd = true;
     QMetaObject::invokeMethod(
         this, [this, message] { Q_EMIT failed(message); }, Qt::QueuedConnection);

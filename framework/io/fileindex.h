@@ -3,12 +3,12 @@
 #include "corvaneframework_export.h"
 #include "streamscanner.h"
 
-#include <QMutex>
 #include <QObject>
 #include <QString>
-#include <QWaitCondition>
 
+#include <condition_variable>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <vector>
 
@@ -94,8 +94,10 @@ private:
     Limits limits;
     std::unique_ptr<QThread> thread; ///< Null while nothing is indexed.
 
-    mutable QMutex mutex; ///< Of all that follows.
-    QWaitCondition cancelling;
+    // Not those of Qt: what a QWaitCondition does with its mutex is hidden from the thread
+    // sanitizer.
+    mutable std::mutex mutex; ///< Of all that follows.
+    std::condition_variable cancelling;
     bool cancelled = false;
     Found found;
 };

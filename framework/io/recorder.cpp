@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLocale>
-#include <QMutexLocker>
 #include <QThread>
 
 #include <fcntl.h>
@@ -109,34 +108,34 @@ void Recorder::write(QByteArrayView bytes)
 {
     if (!isRecording())
         return;
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     if (ending)
         return;
     if (waiting.size() + bytes.size() <= maximumWaitingBytes)
         waiting.append(bytes);
     else
         tooSlow = ending = true;
-    changed.wakeOne();
+    changed.notify_one();
 }
 
 quint64 Recorder::getBytesWritten() const
 {
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard lock(mutex);
     return bytesWritten;
 }
 
 void Recorder::runThread()
 {
-    QMutexLocker locker(&mutex);
+    std::unique_lock lock(mutex);
     while (writeError == 0) {
         while (waiting.isEmpty() && !ending)
-            changed.wait(&mutex);
+            changed.wait(lock);
         if (waiting.isEmpty())
             break;
         const QByteArray bytes = std::exchange(waiting, {});
-        locker.unlock();
+        lock.unlock();
         const int error = writeAll(bytes);
-        locker.relock();
+        lock.lock();
         writeError = error;
     }
     ending = true;
@@ -154,7 +153,7 @@ int Recorder::writeAll(QByteArrayView bytes)
         if (count < 0)
             return errno;
         bytes = bytes.sliced(count);
-        const QMutexLocker locker(&mutex);
+        const std::lock_guard lock(mutex);
         bytesWritten += static_cast<quint64>(count);
     }
     return 0;
@@ -165,10 +164,11 @@ void Recorder::joinThread()
 {
     if (!thread)
         return;
-    mutex.lock();
-    ending = true;
-    changed.wakeOne();
-    mutex.unlock();
+    {
+        const std::lock_guard lock(mutex);
+        ending = true;
+    }
+    changed.notify_one();
     thread->wait();
     thread.reset();
     // Some file systems tell of a full disk only here.

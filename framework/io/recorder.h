@@ -5,12 +5,12 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
-#include <QMutex>
 #include <QObject>
 #include <QString>
-#include <QWaitCondition>
 
+#include <condition_variable>
 #include <memory>
+#include <mutex>
 
 class QThread;
 
@@ -83,8 +83,9 @@ private:
     std::unique_ptr<QThread> thread; ///< Null without a recording.
     unsigned recording = 0; ///< The number of the present or the latest one.
 
-    mutable QMutex mutex; ///< Of all that follows.
-    QWaitCondition changed;
+    // As in FileIndex, not those of Qt.
+    mutable std::mutex mutex; ///< Of all that follows.
+    std::condition_variable changed;
     QByteArray waiting;
     quint64 bytesWritten = 0;
     int writeError = 0; ///< The errno of the write that failed.
