@@ -48,6 +48,13 @@ function(corvane_share_precompiled_headers folder)
             else()
                 target_precompile_headers(${target} REUSE_FROM precompiled_core)
             endif()
+            # In a program that is next to nothing, and compiles in a thirtieth of the time without.
+            get_target_property(type ${target} TYPE)
+            get_target_property(binary_dir ${target} BINARY_DIR)
+            if(type STREQUAL "EXECUTABLE")
+                set_source_files_properties(${binary_dir}/${target}_autogen/mocs_compilation.cpp
+                    TARGET_DIRECTORY ${target} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+            endif()
         endif()
     endforeach()
     get_property(folders DIRECTORY ${folder} PROPERTY SUBDIRECTORIES)
