@@ -125,24 +125,30 @@ QByteArrayView ProtobufMessage::getBytes() const
     return owned != nullptr ? owned->getBytes() : QByteArrayView();
 }
 
-const ProtobufMessage **ProtobufMessage::findParts(const FieldInfo *field, unsigned int count) const
+const ProtobufMessage::Parts &ProtobufMessage::findParts(const FieldInfo *field,
+                                                         unsigned int count) const
 {
     for (Parts *known = parts; known != nullptr; known = known->next)
         if (known->field == field)
-            return known->messages;
-    Arena *arena = content->getArena();
-    const auto **messages = Arena::CreateArray<const ProtobufMessage *>(arena, count);
+            return *known;
+    // One block for all: most fields have one sub-message.
+    const size_t size
+        = sizeof(Parts) + count * (sizeof(ProtobufMessage) + sizeof(ProtobufMessage *));
+    char *block = Arena::CreateArray<char>(content->getArena(), size);
+    auto *places = reinterpret_cast<ProtobufMessage *>(block + sizeof(Parts));
+    auto **messages = reinterpret_cast<const ProtobufMessage **>(places + count);
     std::fill_n(messages, count, nullptr);
-    parts = Arena::Create<Parts>(arena, Parts{field, messages, parts});
-    return messages;
+    parts = new (block) Parts{field, messages, places, parts};
+    return *parts;
 }
 
-const ProtobufMessage *ProtobufMessage::makePart(const FieldInfo *field,
-                                                 const google::protobuf::Message &part) const
+void ProtobufMessage::makePart(const Parts &parts,
+                               unsigned int index,
+                               const google::protobuf::Message &part) const
 {
     // It owns nothing outside of the arena and ends with that, without a destructor.
-    void *place = Arena::CreateArray<char>(content->getArena(), sizeof(ProtobufMessage));
-    return new (place)
+    const FieldInfo *field = parts.field;
+    parts.messages[index] = new (parts.places + index)
         ProtobufMessage(field->getType().getSubMessageInfo(), this, part, field->isConfidential());
 }
 

@@ -119,10 +119,10 @@ public:
     const ProtobufMessage *
     getPart(const FieldInfo *field, unsigned int index, unsigned int count, Read &&read) const
     {
-        const ProtobufMessage *&part = findParts(field, count)[index];
-        if (part == nullptr)
-            part = makePart(field, read());
-        return part;
+        const Parts &known = findParts(field, count);
+        if (known.messages[index] == nullptr)
+            makePart(known, index, read());
+        return known.messages[index];
     }
 
     /**
@@ -135,11 +135,12 @@ public:
     const google::protobuf::Message *resolveAny(const google::protobuf::Message &any) const;
 
 private:
-    /** The sub-messages of one field that were asked for, the others null; in the arena. */
+    /** The sub-messages of one field, each made when it is asked for; in the arena. */
     struct Parts
     {
         const FieldInfo *field;
-        const ProtobufMessage **messages;
+        const ProtobufMessage **messages; ///< Null for those that are not made.
+        ProtobufMessage *places; ///< Where they are made.
         Parts *next;
     };
 
@@ -153,9 +154,9 @@ private:
                     const google::protobuf::Message &message,
                     bool confidential);
 
-    const ProtobufMessage **findParts(const FieldInfo *field, unsigned int count) const;
-    const ProtobufMessage *makePart(const FieldInfo *field,
-                                    const google::protobuf::Message &part) const;
+    const Parts &findParts(const FieldInfo *field, unsigned int count) const;
+    void
+    makePart(const Parts &parts, unsigned int index, const google::protobuf::Message &part) const;
 
     const google::protobuf::Message &message; ///< In the content.
     const google::protobuf::Reflection &reflection;
