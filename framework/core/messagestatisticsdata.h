@@ -50,8 +50,7 @@ struct CORVANEFRAMEWORK_EXPORT MessageStatisticsData
 
     /** Messages of further senders are counted, but not their intervals. */
     static constexpr size_t maximumSenders = 64;
-    /** The same for the unknown ids of a stream together: noise names ever more senders for them.
-     */
+    /** The same for all unknown ids of a stream together: noise names ever more senders. */
     static constexpr size_t maximumUnknownSenders = 64;
 
     /** Counts one good message. */
