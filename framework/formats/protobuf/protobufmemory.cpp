@@ -76,10 +76,12 @@ private:
         if (!input.ReadVarintSizeAsInt(&size))
             return false;
         if (inner == nullptr) {
+            if (!input.Skip(size))
+                return false;
             // A packed list may have an element of 8 bytes for each byte.
             const bool isPacked = field != nullptr && field->is_packable();
             used += static_cast<quint64>(size) * (isPacked ? 8 : 1);
-            return input.Skip(size);
+            return true;
         }
         const auto outer = input.PushLimit(size);
         addMessage(inner, depth + 1);

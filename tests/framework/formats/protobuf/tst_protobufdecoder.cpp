@@ -32,6 +32,7 @@ private Q_SLOTS:
     void cutEnd_isTold();
     void expandingMessage_isRefused();
     void manySmallParts_areRead();
+    void largeMessage_withALengthBeyondItsEnd_isNone();
     void everyTruncation_isHandled();
     void everyFlippedBit_isHandled();
     void messages_outliveTheFormat();
@@ -278,6 +279,18 @@ void tst_ProtobufDecoder::manySmallParts_areRead()
     run.finish();
     QCOMPARE(run.getTotals().frames, 1U);
     QCOMPARE(run.getMessages().at(0).count(QLatin1String("x: 5")), 100'000);
+}
+
+void tst_ProtobufDecoder::largeMessage_withALengthBeyondItsEnd_isNone()
+{
+    // What is not there takes no memory.
+    const QByteArray message
+        = QByteArray("\x08\x05", 2).repeated(100'000) + QByteArray("\x12\xFF\xFF\xFF\xFF\x07", 6);
+    ProtobufRun run(small->getFormat(), QStringLiteral("le32"));
+    run.append(framedLittleEndian(message));
+    run.finish();
+    QCOMPARE(run.getEvents(), QStringList("200010 bytes from offset 0 are lost: they are no "
+                                          "message of type A."));
 }
 
 namespace {
