@@ -6,7 +6,6 @@
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QThread>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,6 +14,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <system_error>
 #include <utility>
 
 namespace corvane {
@@ -58,27 +58,29 @@ void FileIndex::start(const QString &path, std::unique_ptr<StreamScanner> scanne
     found = {};
     found.distanceBytes = limits.distanceBytes;
     std::shared_ptr<StreamScanner> shared = std::move(scanner);
-    thread.reset(QThread::create([this, path, shared] { runThread(path, *shared); }));
-    thread->start();
+    try {
+        thread = std::thread([this, path, shared] { runThread(path, *shared); });
+    } catch (const std::system_error &error) {
+        tellFailure(path, error.code().value());
+    }
 }
 
 void FileIndex::cancel()
 {
-    if (!thread)
+    if (!thread.joinable())
         return;
     {
         const std::lock_guard lock(mutex);
         cancelled = true;
     }
     cancelling.notify_one();
-    thread->wait();
-    thread.reset();
+    thread.join();
 }
 
 bool FileIndex::isRunning() const
 {
     const std::lock_guard lock(mutex);
-    return thread && !cancelled && !found.atEnd;
+    return thread.joinable() && !cancelled && !found.atEnd;
 }
 
 qint64 FileIndex::getIndexedBytes() const
@@ -134,7 +136,7 @@ void FileIndex::runThread(const QString &path, StreamScanner &scanner)
 {
     const FileDescriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
     if (!file.isValid())
-        return tellFailure(tr("Cannot index %1: %2.").arg(path, getSystemErrorText(errno)));
+        return tellFailure(path, errno);
     QByteArray chunk(chunkBytes, Qt::Uninitialized);
     QElapsedTimer sinceProgress;
     sinceProgress.start();
@@ -143,7 +145,7 @@ void FileIndex::runThread(const QString &path, StreamScanner &scanner)
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
-            return tellFailure(tr("Cannot index %1: %2.").arg(path, getSystemErrorText(errno)));
+            return tellFailure(path, errno);
         if (count > 0) {
             take(scanner, QByteArrayView(chunk.constData(), count));
         } else {
@@ -203,8 +205,9 @@ void FileIndex::tellEnd()
     QMetaObject::invokeMethod(this, &FileIndex::finished, Qt::QueuedConnection);
 }
 
-void FileIndex::tellFailure(const QString &message)
+void FileIndex::tellFailure(const QString &path, int error)
 {
+    const QString message = tr("Cannot index %1: %2.").arg(path, getSystemErrorText(error));
     const std::lock_guard lock(mutex);
     found.atEnd = true;
     QMetaObject::invokeMethod(

@@ -10,9 +10,8 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <thread>
 #include <vector>
-
-class QThread;
 
 namespace corvane {
 
@@ -89,13 +88,13 @@ private:
     bool waitForGrowth(int descriptor);
     void take(StreamScanner &scanner, QByteArrayView bytes);
     void tellEnd();
-    void tellFailure(const QString &message);
+    void tellFailure(const QString &path, int error);
 
     Limits limits;
-    std::unique_ptr<QThread> thread; ///< Null while nothing is indexed.
-
-    // Not those of Qt: what a QWaitCondition does with its mutex is hidden from the thread
+    // Not Qt's thread, mutex and condition: what these wait for is hidden from the thread
     // sanitizer.
+    std::thread thread; ///< None while nothing is indexed.
+
     mutable std::mutex mutex; ///< Of all that follows.
     std::condition_variable cancelling;
     bool cancelled = false;

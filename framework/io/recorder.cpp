@@ -5,13 +5,13 @@
 #include <QDir>
 #include <QFile>
 #include <QLocale>
-#include <QThread>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <system_error>
 #include <utility>
 
 namespace corvane {
@@ -40,7 +40,7 @@ FileDescriptor openForWriting(const QString &path)
     return file;
 }
 
-QString describeOpenError(int error)
+QString describeStartError(int error)
 {
     switch (error) {
     case ENOENT:
@@ -83,15 +83,23 @@ bool Recorder::start(const QString &newPath)
     tooSlow = false;
     ending = false;
     file = openForWriting(path);
-    if (!file.isValid()) {
-        errorMessage = tr("Cannot record to \"%1\": %2")
-                           .arg(QDir::toNativeSeparators(path), describeOpenError(errno));
-        return false;
-    }
+    if (!file.isValid())
+        return refuse(errno);
     ++recording;
-    thread.reset(QThread::create([this] { runThread(); }));
-    thread->start();
+    try {
+        thread = std::thread([this] { runThread(); });
+    } catch (const std::system_error &error) {
+        file.reset();
+        return refuse(error.code().value());
+    }
     return true;
+}
+
+bool Recorder::refuse(int error)
+{
+    errorMessage = tr("Cannot record to \"%1\": %2")
+                       .arg(QDir::toNativeSeparators(path), describeStartError(error));
+    return false;
 }
 
 bool Recorder::stop()
@@ -162,15 +170,14 @@ int Recorder::writeAll(QByteArrayView bytes)
 /** Lets the thread write what waits, and closes the file. */
 void Recorder::joinThread()
 {
-    if (!thread)
+    if (!thread.joinable())
         return;
     {
         const std::lock_guard lock(mutex);
         ending = true;
     }
     changed.notify_one();
-    thread->wait();
-    thread.reset();
+    thread.join();
     // Some file systems tell of a full disk only here.
     if (::close(file.release()) != 0 && writeError == 0)
         writeError = errno;

@@ -9,10 +9,8 @@
 #include <QString>
 
 #include <condition_variable>
-#include <memory>
 #include <mutex>
-
-class QThread;
+#include <thread>
 
 namespace corvane {
 
@@ -52,7 +50,7 @@ public:
     /** Takes bytes of the stream; does nothing without a recording. */
     void write(QByteArrayView bytes);
 
-    bool isRecording() const { return thread != nullptr; }
+    bool isRecording() const { return thread.joinable(); }
 
     const QString &getPath() const { return path; }
 
@@ -70,6 +68,7 @@ Q_SIGNALS:
     void failed(const QString &message);
 
 private:
+    bool refuse(int error);
     void runThread();
     int writeAll(QByteArrayView bytes);
     void joinThread();
@@ -80,10 +79,10 @@ private:
     QString path;
     QString errorMessage;
     FileDescriptor file; ///< Used by the thread while that runs.
-    std::unique_ptr<QThread> thread; ///< Null without a recording.
+    // As in FileIndex, not those of Qt.
+    std::thread thread; ///< None without a recording.
     unsigned recording = 0; ///< The number of the present or the latest one.
 
-    // As in FileIndex, not those of Qt.
     mutable std::mutex mutex; ///< Of all that follows.
     std::condition_variable changed;
     QByteArray waiting;

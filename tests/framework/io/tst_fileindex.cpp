@@ -1,4 +1,5 @@
 #include "fileindex.h"
+#include "nothreads.h"
 #include "testcase.h"
 
 #include <QFile>
@@ -84,6 +85,7 @@ private Q_SLOTS:
     void file_growsAfterItsEnd();
     void file_thatBecomesShorter();
     void missingFile_fails();
+    void noThread_fails();
     void cancel_keepsWhatWasFound();
     void destructor_endsTheWork();
     void start_again();
@@ -242,6 +244,20 @@ void TestFileIndex::missingFile_fails()
     QTRY_COMPARE(failed.size(), 1);
     QVERIFY(failed.first().first().toString().contains(path));
     QVERIFY(!index.isRunning());
+}
+
+void TestFileIndex::noThread_fails()
+{
+    write(timedLines(0, 10));
+    FileIndex index;
+    QSignalSpy failed(&index, &FileIndex::failed);
+    {
+        const test::NoThreads noThreads;
+        index.start(path, std::make_unique<LineScanner>());
+    }
+    QVERIFY(!index.isRunning());
+    QTRY_COMPARE(failed.size(), 1);
+    QVERIFY(failed.first().first().toString().contains(path));
 }
 
 void TestFileIndex::cancel_keepsWhatWasFound()

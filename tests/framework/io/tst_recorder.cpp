@@ -1,5 +1,6 @@
 #include "linedecoder.h"
 #include "memorysource.h"
+#include "nothreads.h"
 #include "recorder.h"
 #include "streampump.h"
 #include "testcase.h"
@@ -77,6 +78,7 @@ private Q_SLOTS:
     void destructor_completesTheFile();
     void open_errors_data();
     void open_errors();
+    void noThread_isTold();
     void fullDisk_endsTheRecordingAndSaysSo();
     void fullDisk_whileStopping_isTold();
     void fileLimit_saysHowMuchWasKept();
@@ -183,6 +185,22 @@ void TestRecorder::open_errors()
     QVERIFY2(recorder.getErrorMessage().contains(expected), qPrintable(recorder.getErrorMessage()));
     recorder.write("lost");
     QCOMPARE(failed.size(), 0);
+}
+
+void TestRecorder::noThread_isTold()
+{
+    Recorder recorder;
+    {
+        const test::NoThreads noThreads;
+        QVERIFY(!recorder.start(path));
+    }
+    QVERIFY(!recorder.isRecording());
+    QVERIFY2(recorder.getErrorMessage().contains(path), qPrintable(recorder.getErrorMessage()));
+    recorder.write("lost");
+    QVERIFY(recorder.start(path));
+    recorder.write("kept");
+    QVERIFY(recorder.stop());
+    QCOMPARE(readFile(path), QByteArray("kept"));
 }
 
 void TestRecorder::fullDisk_endsTheRecordingAndSaysSo()

@@ -8,9 +8,9 @@
 #include "testsource.h"
 
 #include <QApplication>
-#include <QThread>
 
 #include <stdexcept>
+#include <thread>
 
 using namespace corvane::test;
 
@@ -353,16 +353,8 @@ void TestFieldValueLabel::source_inOtherThread_isQueued()
     const auto message = format.message("Position{lat: 4.5}");
     TestSource source(format);
     const FieldValueLabel label(format.field("Position.lat"), &source);
-    QThread thread;
-    const auto stop = qScopeGuard([&thread] {
-        thread.quit();
-        thread.wait();
-    });
-    source.moveToThread(&thread);
-    thread.start();
 
-    QMetaObject::invokeMethod(
-        &source, [&] { source.send(message); }, Qt::BlockingQueuedConnection);
+    std::thread([&] { source.send(message); }).join();
     QCOMPARE(label.text(), "N/A");
     QTRY_COMPARE(label.text(), "4.5");
 }
