@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -57,9 +58,9 @@ void FileIndex::start(const QString &path, std::unique_ptr<StreamScanner> scanne
     cancelled = false;
     found = {};
     found.distanceBytes = limits.distanceBytes;
-    std::shared_ptr<StreamScanner> shared = std::move(scanner);
     try {
-        thread = std::thread([this, path, shared] { runThread(path, *shared); });
+        thread = std::thread(
+            [this, path, scanner = std::move(scanner)] { runThread(path, *scanner); });
     } catch (const std::system_error &error) {
         tellFailure(path, error.code().value());
     }
@@ -133,6 +134,15 @@ std::optional<FileIndex::Place> FileIndex::findTime(qint64 timeUs) const
 }
 
 void FileIndex::runThread(const QString &path, StreamScanner &scanner)
+{
+    try {
+        read(path, scanner);
+    } catch (const std::bad_alloc &) {
+        tellFailure(path, ENOMEM);
+    }
+}
+
+void FileIndex::read(const QString &path, StreamScanner &scanner)
 {
     const FileDescriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
     if (!file.isValid())

@@ -85,14 +85,14 @@ private:
     };
 
     void runThread(const QString &path, StreamScanner &scanner);
+    void read(const QString &path, StreamScanner &scanner);
     bool waitForGrowth(int descriptor);
     void take(StreamScanner &scanner, QByteArrayView bytes);
     void tellEnd();
     void tellFailure(const QString &path, int error);
 
     Limits limits;
-    // Not Qt's thread, mutex and condition: what these wait for is hidden from the thread
-    // sanitizer.
+    // None of Qt's: what those wait for is hidden from the thread sanitizer.
     std::thread thread; ///< None while nothing is indexed.
 
     mutable std::mutex mutex; ///< Of all that follows.

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <new>
 
 using namespace corvane;
 
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void file_thatBecomesShorter();
     void missingFile_fails();
     void noThread_fails();
+    void noMemory_fails();
     void cancel_keepsWhatWasFound();
     void destructor_endsTheWork();
     void start_again();
@@ -258,6 +260,23 @@ void TestFileIndex::noThread_fails()
     QVERIFY(!index.isRunning());
     QTRY_COMPARE(failed.size(), 1);
     QVERIFY(failed.first().first().toString().contains(path));
+}
+
+void TestFileIndex::noMemory_fails()
+{
+    class GreedyScanner : public LineScanner
+    {
+    public:
+        void append(QByteArrayView) override { throw std::bad_alloc(); }
+    };
+
+    write(timedLines(0, 10));
+    FileIndex index;
+    QSignalSpy failed(&index, &FileIndex::failed);
+    index.start(path, std::make_unique<GreedyScanner>());
+    QTRY_COMPARE(failed.size(), 1);
+    QVERIFY(failed.first().first().toString().contains(path));
+    QVERIFY(!index.isRunning());
 }
 
 void TestFileIndex::cancel_keepsWhatWasFound()
