@@ -16,13 +16,6 @@ enum Column {
     GapsColumn
 };
 
-// Rows of gaps are found by their place, so no sorting may move them.
-class GapItem : public QTreeWidgetItem
-{
-public:
-    bool operator<(const QTreeWidgetItem &) const override { return false; }
-};
-
 QString durationText(const MessageStatistics::Gap &gap)
 {
     // 32 bits, also where that is too short; unsigned, so that it is defined.
@@ -33,6 +26,112 @@ QString durationText(const MessageStatistics::Gap &gap)
         return QObject::tr("%1 s").arg(duration / static_cast<double>(msPerSecond));
     return QObject::tr("%1 ms").arg(duration);
 }
+
+/** A row that makes its texts when they are asked for: there may be tens of thousands. */
+class LeanItem : public QTreeWidgetItem
+{
+public:
+    QVariant data(int column, int role) const final
+    {
+        const QVariant ownValue = QTreeWidgetItem::data(column, role);
+        if (ownValue.isValid())
+            return ownValue;
+        if (role == Qt::DisplayRole || role == Qt::EditRole)
+            return makeText(column);
+        return role == Qt::ToolTipRole ? makeToolTip(column) : QVariant();
+    }
+
+protected:
+    /** Nothing where there is none; the same below. */
+    virtual QVariant makeText(int column) const = 0;
+    virtual QVariant makeToolTip(int column) const = 0;
+};
+
+class IntervalItem final : public LeanItem
+{
+public:
+    explicit IntervalItem(long long interval)
+        : interval(interval)
+    {
+    }
+
+protected:
+    QVariant makeText(int column) const override
+    {
+        return column == NameColumn ? getIntervalText() : QVariant();
+    }
+
+    QVariant makeToolTip(int column) const override
+    {
+        if (column != NameColumn && column != CountColumn)
+            return {};
+        return interval != 0 ? QObject::tr("Number of times the message was received at %1.")
+                                   .arg(getIntervalText())
+                             : QObject::tr("Number of times the messages was received\n"
+                                           "with the same time stamp as previous.");
+    }
+
+private:
+    QString getIntervalText() const
+    {
+        return MessageStatistics::getIntervalString(static_cast<unsigned long long>(interval));
+    }
+
+    long long interval; ///< Milliseconds.
+};
+
+class GapItem final : public LeanItem
+{
+public:
+    explicit GapItem(const MessageStatistics::Gap &gap)
+        : gap(gap)
+    {
+    }
+
+    void setGap(const MessageStatistics::Gap &newGap)
+    {
+        gap = newGap;
+        // A text that somebody has set instead stands for the old one.
+        for (const int column : {NameColumn, CountColumn, RateColumn})
+            setData(column, Qt::DisplayRole, QVariant());
+        emitDataChanged();
+    }
+
+    // Rows of gaps are found by their place, so no sorting may move them.
+    bool operator<(const QTreeWidgetItem &) const override { return false; }
+
+protected:
+    QVariant makeText(int column) const override
+    {
+        switch (column) {
+        case NameColumn:
+            return MessageStatistics::getTimeString(gap.start);
+        case CountColumn:
+            return QString::number(gap.missingEpochs);
+        case RateColumn:
+            return durationText(gap);
+        default:
+            return {};
+        }
+    }
+
+    QVariant makeToolTip(int column) const override
+    {
+        switch (column) {
+        case NameColumn:
+            return QObject::tr("Gaps start");
+        case CountColumn:
+            return QObject::tr("Missing epochs");
+        case RateColumn:
+            return QObject::tr("Duration");
+        default:
+            return {};
+        }
+    }
+
+private:
+    MessageStatistics::Gap gap;
+};
 
 } // namespace
 
@@ -155,17 +254,7 @@ QTreeWidgetItem *MessageStatisticsTreeWidgetItem::getIntervalItem(long long inte
 {
     QTreeWidgetItem *&item = intervalItems[interval];
     if (item == nullptr) {
-        const QString text
-            = MessageStatistics::getIntervalString(static_cast<unsigned long long>(interval));
-        const QString toolTip
-            = interval != 0
-                  ? QObject::tr("Number of times the message was received at %1.").arg(text)
-                  : QObject::tr("Number of times the messages was received\n"
-                                "with the same time stamp as previous.");
-        item = new QTreeWidgetItem;
-        item->setText(NameColumn, text);
-        item->setToolTip(NameColumn, toolTip);
-        item->setToolTip(CountColumn, toolTip);
+        item = new IntervalItem(interval);
         intervalsItem->addChild(item);
     }
     return item;
@@ -189,13 +278,6 @@ void MessageStatisticsTreeWidgetItem::updateGapSubItems()
                                   statistics->hasUnstoredGaps()
                                       ? QObject::tr("Gaps (incomplete list)")
                                       : QObject::tr("Gaps"));
-    while (gapsItem->childCount() < gaps.size()) {
-        auto *item = new GapItem;
-        item->setToolTip(NameColumn, QObject::tr("Gaps start"));
-        item->setToolTip(CountColumn, QObject::tr("Missing epochs"));
-        item->setToolTip(RateColumn, QObject::tr("Duration"));
-        gapsItem->addChild(item);
-    }
     // The rows behind a deleted one move up, so every second one stays; people rely on it.
     for (auto i = static_cast<int>(gaps.size()); i < gapsItem->childCount(); ++i)
         delete gapsItem->child(i);
@@ -204,7 +286,11 @@ void MessageStatisticsTreeWidgetItem::updateGapSubItems()
     for (qsizetype i = 0; i < gaps.size(); ++i) {
         if (i < shownGaps.size() && shownGaps.at(i) == gaps.at(i))
             continue;
-        writeGap(gapsItem->child(static_cast<int>(i)), gaps.at(i));
+        const auto row = static_cast<int>(i);
+        if (row == gapsItem->childCount())
+            gapsItem->addChild(new GapItem(gaps.at(i)));
+        else
+            writeGap(gapsItem->child(row), gaps.at(i));
         if (i < shownGaps.size())
             shownGaps[i] = gaps.at(i);
         else
@@ -215,7 +301,5 @@ void MessageStatisticsTreeWidgetItem::updateGapSubItems()
 void MessageStatisticsTreeWidgetItem::writeGap(QTreeWidgetItem *item,
                                                const MessageStatistics::Gap &gap)
 {
-    SteadyTreeWidget::setItemText(item, NameColumn, MessageStatistics::getTimeString(gap.start));
-    SteadyTreeWidget::setItemText(item, CountColumn, QString::number(gap.missingEpochs));
-    SteadyTreeWidget::setItemText(item, RateColumn, durationText(gap));
+    static_cast<GapItem *>(item)->setGap(gap);
 }
