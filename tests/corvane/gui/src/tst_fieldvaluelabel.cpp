@@ -59,7 +59,7 @@ private Q_SLOTS:
     void needs_followTheField();
     void needs_endWithTheLabel();
     void source_feedsTheLabel();
-    void source_inOtherThread_isQueued();
+    void message_fromOtherThread_isQueued();
     void clearValue_showsNothing();
     void texts_areTranslatedInTheirContext();
     void exceptionOfTheFramework_passesOn();
@@ -347,7 +347,7 @@ void TestFieldValueLabel::source_feedsTheLabel()
     QCOMPARE(label.text(), "N/A");
 }
 
-void TestFieldValueLabel::source_inOtherThread_isQueued()
+void TestFieldValueLabel::message_fromOtherThread_isQueued()
 {
     const TestFormat format("Demo", types);
     const auto message = format.message("Position{lat: 4.5}");
