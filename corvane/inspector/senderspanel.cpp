@@ -20,6 +20,42 @@ QString columnsKey()
 
 } // namespace
 
+/** A type that damaged frames claim to be of. Noise makes thousands, so it keeps little. */
+class SendersPanel::ClaimedTypeItem final : public QTreeWidgetItem
+{
+public:
+    ClaimedTypeItem(QTreeWidgetItem *parent, const QString &name)
+        : name(name)
+    {
+        parent->addChild(this);
+        QTreeWidgetItem::operator=(QTreeWidgetItem()); // gives back what the tree has reserved
+    }
+
+    void setCrcErrors(quint64 count)
+    {
+        if (crcErrors == count)
+            return;
+        crcErrors = count;
+        const QModelIndex cell = treeWidget()->indexFromItem(this, CrcErrorsColumn);
+        Q_EMIT treeWidget()->model()->dataChanged(cell, cell);
+    }
+
+    QVariant data(int column, int role) const override
+    {
+        if (role == Qt::DisplayRole && column == SenderColumn)
+            return name;
+        if (role == Qt::DisplayRole && column == CrcErrorsColumn)
+            return crcErrors;
+        if (role == Qt::TextAlignmentRole && column == CrcErrorsColumn)
+            return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+        return QTreeWidgetItem::data(column, role);
+    }
+
+private:
+    QString name; ///< Shared with the type.
+    quint64 crcErrors = 0;
+};
+
 SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
     : QWidget(parent)
     , reception(reception)
@@ -107,12 +143,10 @@ void SendersPanel::refreshRow(const SenderStatistics &sender)
     SteadyTreeWidget::setItemNumber(row.item, CrcErrorsColumn, sender.crcErrors);
     for (auto entry = sender.crcErrorsByType.begin(); entry != sender.crcErrorsByType.end();
          ++entry) {
-        QTreeWidgetItem *&item = row.claimedTypes[entry.key()];
-        if (item == nullptr) {
-            item = new QTreeWidgetItem(row.item, {entry.key()->getName()});
-            item->setTextAlignment(CrcErrorsColumn, Qt::AlignRight | Qt::AlignVCenter);
-        }
-        SteadyTreeWidget::setItemNumber(item, CrcErrorsColumn, entry.value());
+        ClaimedTypeItem *&item = row.claimedTypes[entry.key()];
+        if (item == nullptr)
+            item = new ClaimedTypeItem(row.item, entry.key()->getName());
+        item->setCrcErrors(entry.value());
     }
 }
 

@@ -46,10 +46,12 @@ private:
         ColumnCount
     };
 
+    class ClaimedTypeItem;
+
     struct Row
     {
         QTreeWidgetItem *item = nullptr; ///< Owned by the tree.
-        QHash<const MessageInfo *, QTreeWidgetItem *> claimedTypes; ///< The rows below it.
+        QHash<const MessageInfo *, ClaimedTypeItem *> claimedTypes; ///< The rows below it.
     };
 
     void hideErrorsWithoutChecksum();

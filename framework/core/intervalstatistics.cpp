@@ -42,20 +42,19 @@ IntervalStatistics::IntervalStatistics()
 
 quint8 IntervalStatistics::getClass(qint64 ms)
 {
-    const auto end = classes.begin() + classCount;
-    const auto found
-        = std::find_if(classes.begin(), end, [&](const Class &known) { return known.ms == ms; });
-    if (found != end)
+    const auto found = std::find_if(classes.begin(), classes.end(),
+                                    [&](const Class &known) { return known.ms == ms; });
+    if (found != classes.end())
         return static_cast<quint8>(found - classes.begin());
-    if (classCount < maximumClasses) {
-        classes[classCount].ms = ms;
-        return classCount++;
+    if (classes.size() < maximumClasses) {
+        classes.push_back({ms, 0});
+        return static_cast<quint8>(classes.size() - 1);
     }
-    const auto nearest
-        = std::min_element(classes.begin(), end, [&](const Class &left, const Class &right) {
-              return distance(static_cast<double>(left.ms), static_cast<double>(ms))
-                     < distance(static_cast<double>(right.ms), static_cast<double>(ms));
-          });
+    const auto nearest = std::min_element(
+        classes.begin(), classes.end(), [&](const Class &left, const Class &right) {
+            return distance(static_cast<double>(left.ms), static_cast<double>(ms))
+                   < distance(static_cast<double>(right.ms), static_cast<double>(ms));
+        });
     return static_cast<quint8>(nearest - classes.begin());
 }
 
@@ -106,7 +105,7 @@ void IntervalStatistics::removeGap(const MessageStatistics::Gap &gap)
 QList<IntervalStatistics::Class> IntervalStatistics::getClasses() const
 {
     QList<Class> result;
-    std::copy_if(classes.begin(), classes.begin() + classCount, std::back_inserter(result),
+    std::copy_if(classes.begin(), classes.end(), std::back_inserter(result),
                  [](const Class &known) { return known.count != 0; });
     std::sort(result.begin(), result.end(), [](const Class &left, const Class &right) {
         return left.count != right.count ? left.count > right.count : left.ms < right.ms;

@@ -7,6 +7,7 @@
 #include <QtGlobal>
 
 #include <array>
+#include <vector>
 
 namespace corvane {
 
@@ -64,8 +65,7 @@ public:
     QList<MessageStatistics::Gap> gaps; ///< The first ones, in the order of their end.
 
 private:
-    std::array<Class, maximumClasses> classes;
-    quint8 classCount = 0;
+    std::vector<Class> classes; ///< Most types that noise claims to be of have none.
     std::array<quint8, roundValues> roundClasses; ///< maximumClasses where not asked for yet.
 };
 

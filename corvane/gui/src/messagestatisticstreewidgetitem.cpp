@@ -41,10 +41,26 @@ public:
         return role == Qt::ToolTipRole ? makeToolTip(column) : QVariant();
     }
 
+    /** Adds it to \a parent, whose tree reserves cells for texts in every row that it gets. */
+    void addTo(QTreeWidgetItem *parent)
+    {
+        parent->addChild(this);
+        QTreeWidgetItem::operator=(QTreeWidgetItem());
+    }
+
 protected:
     /** Nothing where there is none; the same below. */
     virtual QVariant makeText(int column) const = 0;
     virtual QVariant makeToolTip(int column) const = 0;
+
+    /** To be called when makeText() gives something else for the columns from \a first to \a last.
+     */
+    void tellChange(int first, int last)
+    {
+        if (const QTreeWidget *tree = treeWidget())
+            Q_EMIT tree->model()->dataChanged(tree->indexFromItem(this, first),
+                                              tree->indexFromItem(this, last));
+    }
 };
 
 class IntervalItem final : public LeanItem
@@ -55,9 +71,22 @@ public:
     {
     }
 
+    // The count, which is all that changes, without cells for it.
+    void setData(int column, int role, const QVariant &value) override
+    {
+        if (column != CountColumn || (role != Qt::DisplayRole && role != Qt::EditRole)) {
+            LeanItem::setData(column, role, value);
+        } else if (count != value) {
+            count = value;
+            tellChange(CountColumn, CountColumn);
+        }
+    }
+
 protected:
     QVariant makeText(int column) const override
     {
+        if (column == CountColumn)
+            return count;
         return column == NameColumn ? getIntervalText() : QVariant();
     }
 
@@ -78,6 +107,7 @@ private:
     }
 
     long long interval; ///< Milliseconds.
+    QVariant count;
 };
 
 class GapItem final : public LeanItem
@@ -94,7 +124,7 @@ public:
         // A text that somebody has set instead stands for the old one.
         for (const int column : {NameColumn, CountColumn, RateColumn})
             setData(column, Qt::DisplayRole, QVariant());
-        emitDataChanged();
+        tellChange(NameColumn, RateColumn);
     }
 
     // Rows of gaps are found by their place, so no sorting may move them.
@@ -254,8 +284,9 @@ QTreeWidgetItem *MessageStatisticsTreeWidgetItem::getIntervalItem(long long inte
 {
     QTreeWidgetItem *&item = intervalItems[interval];
     if (item == nullptr) {
-        item = new IntervalItem(interval);
-        intervalsItem->addChild(item);
+        auto *added = new IntervalItem(interval);
+        added->addTo(intervalsItem);
+        item = added;
     }
     return item;
 }
@@ -281,21 +312,16 @@ void MessageStatisticsTreeWidgetItem::updateGapSubItems()
     // The rows behind a deleted one move up, so every second one stays; people rely on it.
     for (auto i = static_cast<int>(gaps.size()); i < gapsItem->childCount(); ++i)
         delete gapsItem->child(i);
-    if (shownGaps.size() > gaps.size())
-        shownGaps.resize(gaps.size());
     for (qsizetype i = 0; i < gaps.size(); ++i) {
         if (i < shownGaps.size() && shownGaps.at(i) == gaps.at(i))
             continue;
         const auto row = static_cast<int>(i);
         if (row == gapsItem->childCount())
-            gapsItem->addChild(new GapItem(gaps.at(i)));
+            (new GapItem(gaps.at(i)))->addTo(gapsItem);
         else
             writeGap(gapsItem->child(row), gaps.at(i));
-        if (i < shownGaps.size())
-            shownGaps[i] = gaps.at(i);
-        else
-            shownGaps.append(gaps.at(i));
     }
+    shownGaps = gaps; // which shares its memory with that of the statistics
 }
 
 void MessageStatisticsTreeWidgetItem::writeGap(QTreeWidgetItem *item,

@@ -43,10 +43,10 @@ public:
 
     size_t size() const { return samples.size(); }
 
-    /** What it takes of memory, without what is not used yet. */
+    /** What it takes of memory, with what is not used yet or was before it was thinned. */
     size_t getBytes() const
     {
-        return samples.size() * sizeof(Sample) + blocks.size() * sizeof(Block);
+        return samples.capacity() * sizeof(Sample) + blocks.capacity() * sizeof(Block);
     }
 
     /** \a sample is not before the last. */

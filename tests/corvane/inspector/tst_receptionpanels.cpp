@@ -34,6 +34,7 @@ private Q_SLOTS:
     void statistics_rememberTheirSorting();
     void statistics_surviveBrokenSettings();
     void senders_showLossesAndDamage();
+    void senders_sortClaimedTypesByTheirErrors();
     void senders_withoutChecksum_haveNoErrorColumn();
     void events_showOnlyWhatIsLookedFor();
     void events_followTheirEndUntilScrolledBack();
@@ -174,6 +175,34 @@ void tst_receptionpanels::senders_showLossesAndDamage()
     scene.reception.receiveDamagedFrame(scene.frame(6), "damaged");
     panel.refresh();
     QCOMPARE(tree->topLevelItem(0)->child(0)->text(4), "2");
+    QCOMPARE(tree->topLevelItem(0)->child(0)->textAlignment(4),
+             tree->topLevelItem(0)->textAlignment(4));
+}
+
+void tst_receptionpanels::senders_sortClaimedTypesByTheirErrors()
+{
+    Scene scene;
+    SendersPanel panel(scene.reception);
+    panel.show();
+    auto *tree = panel.findChild<SteadyTreeWidget *>();
+    for (quint32 i = 0; i < 12; ++i) {
+        FrameHeader frame = scene.frame(i);
+        frame.messageInfo = scene.format.type(i < 9 ? "A" : "B");
+        scene.reception.receiveDamagedFrame(frame, "damaged");
+    }
+    panel.refresh();
+    tree->sortByColumn(4, Qt::AscendingOrder);
+    const QTreeWidgetItem *sender = tree->topLevelItem(0);
+    QCOMPARE(sender->child(0)->text(0), "B");
+    // Numbers, of which 9 is less than 13.
+    for (quint32 i = 12; i < 22; ++i) {
+        FrameHeader frame = scene.frame(i);
+        frame.messageInfo = scene.format.type("B");
+        scene.reception.receiveDamagedFrame(frame, "damaged");
+    }
+    panel.refresh();
+    QCOMPARE(sender->child(0)->text(0), "A");
+    QCOMPARE(sender->child(1)->text(4), "13");
 }
 
 void tst_receptionpanels::senders_withoutChecksum_haveNoErrorColumn()

@@ -213,7 +213,7 @@ void tst_samplestore::growing_movesNothing()
         QCOMPARE(&store.front(), first);
     }
     QVERIFY(store.getBytes() >= store.size() * sizeof(Sample));
-    QVERIFY(store.getBytes() < capacity * 17);
+    QVERIFY(store.getBytes() < capacity * 17 * 9 / 8); // memory is taken in eighths
 }
 
 void tst_samplestore::full_isThinnedLittleByLittle()
