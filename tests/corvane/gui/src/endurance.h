@@ -36,13 +36,13 @@ protected:
         QVERIFY2(left < mostBytes, qPrintable(QStringLiteral("%1 bytes a cycle").arg(left)));
     }
 
+    /** Taken and not given back; always 0 where a sanitizer gives out the memory. */
+    static qint64 usedBytes() { return static_cast<qint64>(mallinfo2().uordblks); }
+
 private:
     /** Less than the smallest piece of memory in each cycle; tables that grow once may take it. */
     static constexpr double fewBytes = 16.0;
     static constexpr int cycles = 10'000;
-
-    /** Taken and not given back; always 0 where a sanitizer gives out the memory. */
-    static qint64 usedBytes() { return static_cast<qint64>(mallinfo2().uordblks); }
 
     static void finishEvents()
     {

@@ -13,6 +13,7 @@ class TestStatisticsEndurance : public EnduranceCase
 
 private Q_SLOTS:
     void widget();
+    void rowsOfNoise_takeLittle();
 };
 
 void TestStatisticsEndurance::widget()
@@ -35,6 +36,35 @@ void TestStatisticsEndurance::widget()
         position.gaps.clear();
         widget.updateTree();
     });
+}
+
+// Damage makes ever more of them; a plain row takes twice as much.
+void TestStatisticsEndurance::rowsOfNoise_takeLittle()
+{
+    const TestFormat format("Demo", "Position\n mode uint8\n");
+    MessageStatisticsCoordinator coordinator;
+    corvane::MessageStatisticsData &position = coordinator.getData()->add(
+        format.getInfo(), format.type("Position"), QStringLiteral("Position"));
+    MessageStatisticsWidget widget(&coordinator, nullptr);
+    constexpr int rows = 1000;
+    const auto measure = [&](auto &&addRow) {
+        addRow(0);
+        widget.updateTree();
+        const qint64 before = usedBytes();
+        for (int i = 1; i <= rows; ++i)
+            addRow(i);
+        widget.updateTree();
+        return static_cast<double>(usedBytes() - before) / rows;
+    };
+    const double ofGap = measure([&](int i) {
+        position.gaps.append({static_cast<quint64>(i) * 1000, 3, 100});
+    });
+    QVERIFY2(ofGap < 270, qPrintable(QString::number(ofGap)));
+    const double ofInterval = measure([&](int i) {
+        position.intervals.append(i);
+        position.intervalCounts.insert(i, 12345);
+    });
+    QVERIFY2(ofInterval < 370, qPrintable(QString::number(ofInterval)));
 }
 
 CORVANE_GUI_TEST_MAIN(TestStatisticsEndurance)
