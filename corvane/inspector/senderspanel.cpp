@@ -9,6 +9,8 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace corvane {
 
 namespace {
@@ -77,9 +79,11 @@ SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
     tree->headerItem()->setToolTip(LostColumn, tr("Messages missing by their sequence numbers"));
     tree->header()->setStretchLastSection(false);
     tree->header()->setSectionResizeMode(SenderColumn, QHeaderView::Stretch);
+    const int ofNumber = fontMetrics().horizontalAdvance(QStringLiteral("0123456789"));
     for (int column = FramesColumn; column < ColumnCount; ++column) {
         tree->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
-        tree->header()->resizeSection(column, tree->header()->sectionSizeHint(column));
+        tree->header()->resizeSection(column,
+                                      std::max(ofNumber, tree->header()->sectionSizeHint(column)));
     }
     tree->setSortingEnabled(true);
     tree->sortByColumn(SenderColumn, Qt::AscendingOrder);

@@ -160,6 +160,7 @@ void tst_receptionpanels::senders_showLossesAndDamage()
     SendersPanel panel(scene.reception);
     panel.show();
     const auto *tree = panel.findChild<SteadyTreeWidget *>();
+    QVERIFY(tree->columnWidth(3) > tree->fontMetrics().horizontalAdvance("99999999")); // "Lost"
     QVERIFY(panel.findChild<QLabel *>()->isVisible());
     scene.reception.receiveFrame(scene.frame(0));
     scene.reception.receiveFrame(scene.frame(4));
