@@ -11,6 +11,37 @@ enum Column {
     ColumnCount
 };
 
+/** A cell that shares its contents with the log: of a full one there are tens of thousands. */
+template <typename Contents>
+class SharingCell final : public QTableWidgetItem
+{
+public:
+    explicit SharingCell(const Contents &contents)
+        : contents(contents)
+    {
+        setFlags(Qt::ItemIsEnabled);
+    }
+
+    QVariant data(int role) const override
+    {
+        const QVariant ownValue = QTableWidgetItem::data(role);
+        const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
+        return isText && !ownValue.isValid() ? textOf(contents) : ownValue;
+    }
+
+    QTableWidgetItem *clone() const override { return new SharingCell(*this); }
+
+private:
+    static QString textOf(const QString &text) { return text; }
+
+    static QString textOf(const QDateTime &time)
+    {
+        return time.isValid() ? time.toString(Qt::ISODate) : EventLogTableWidget::tr("N/A");
+    }
+
+    Contents contents;
+};
+
 } // namespace
 
 EventLogTableWidget::EventLogTableWidget(EventLog *eventLog, QWidget *parent)
@@ -43,16 +74,10 @@ void EventLogTableWidget::setEventLog(EventLog *eventLog)
 
 void EventLogTableWidget::addEntry(EventLog::Entry entry)
 {
-    const auto makeCell = [](const QString &text) {
-        auto *cell = new QTableWidgetItem(text);
-        cell->setFlags(Qt::ItemIsEnabled);
-        return cell;
-    };
     const int row = rowCount();
     insertRow(row);
-    const QString time = entry.time.isValid() ? entry.time.toString(Qt::ISODate) : tr("N/A");
-    setItem(row, TimeColumn, makeCell(time));
-    setItem(row, MessageColumn, makeCell(entry.event.getMessage()));
+    setItem(row, TimeColumn, new SharingCell(entry.time));
+    setItem(row, MessageColumn, new SharingCell(entry.event.getMessage()));
 }
 
 void EventLogTableWidget::clear()
