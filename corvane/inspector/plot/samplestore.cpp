@@ -87,9 +87,19 @@ void SampleStore::push(const Sample &sample)
     if (sample.isGap() && count > 0 && back().isGap())
         return;
     if (runs.empty() || runs.back().size() >= runSize)
-        runs.emplace_back(runSize);
+        addRun();
     runs.back().append(sample);
     ++count;
+}
+
+void SampleStore::addRun()
+{
+    if (spare.empty()) {
+        runs.emplace_back(runSize);
+    } else {
+        runs.push_back(std::move(spare.back()));
+        spare.clear();
+    }
 }
 
 void SampleStore::insertLate(const Sample &sample)
@@ -123,6 +133,7 @@ void SampleStore::truncate(const Iterator &place)
 void SampleStore::clear()
 {
     runs.clear();
+    spare.clear();
     count = 0;
 }
 
@@ -140,6 +151,10 @@ void SampleStore::thinNext()
     count += run->size();
     if (nextToThin > 0 && (run - 1)->size() + run->size() <= runSize) {
         (run - 1)->append(*run);
+        if (spare.empty()) {
+            run->truncate(0);
+            spare.push_back(std::move(*run));
+        }
         runs.erase(run);
     } else {
         ++nextToThin;
@@ -149,8 +164,9 @@ void SampleStore::thinNext()
 size_t SampleStore::getBytes() const
 {
     size_t bytes = 0;
-    for (const SampleRun &run : runs)
-        bytes += run.getBytes();
+    for (const auto *all : {&runs, &spare})
+        for (const SampleRun &run : *all)
+            bytes += run.getBytes();
     return bytes;
 }
 
