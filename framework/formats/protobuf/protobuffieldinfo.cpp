@@ -192,7 +192,7 @@ FieldValue ProtobufFieldInfo::readValue(const Message *message, unsigned int ind
     if (message->getInfo() != owner)
         return FieldValue::invalid();
     const ProtobufMessage &owning = asProtobuf(message);
-    const ProtobufMessage::Values values = getValues(owning);
+    const ProtobufMessage::Values &values = getValues(owning);
     if (index >= values.count)
         return FieldValue::invalid();
     if (cppType == FieldDescriptor::CPPTYPE_MESSAGE)
