@@ -56,7 +56,7 @@ bool writeStatisticsCsv(const MessageStatisticsCoordinator &statistics, QIODevic
 {
     std::string out = "format,type,count,crcErrors,unknownTime,unknownInterval,gaps,missingEpochs,"
                       "regular,lastIntervalMs\r\n";
-    for (const MessageStatistics *type : statistics.getAllMessageStatistics()) {
+    for (const auto &type : statistics.getData()->all) {
         appendCell(out, type->getFormatInfo()->getName());
         out += ',';
         appendCell(out, type->getMessageName());

@@ -109,7 +109,7 @@ void ExportDialog::fillList(const FormatInfo &format,
 {
     QHash<const MessageInfo *, quint32> counts;
     for (const MessageStatistics *type : statistics.getAllMessageStatistics())
-        if (type->getMessageInfo() != nullptr && type->getCount() > 0)
+        if (type->getMessageInfo() != nullptr)
             counts.insert(type->getMessageInfo(), type->getCount());
     list->setAccessibleName(tr("Messages and fields"));
     list->setHeaderLabels({tr("Message or field"), tr("Received")});

@@ -92,8 +92,7 @@ void ExportJob::keepOccurringTypes()
     QSet<const MessageInfo *> occurring;
     for (const MessageStatistics *type :
          reading->getReception().getStatistics()->getAllMessageStatistics())
-        if (type->getCount() > 0)
-            occurring.insert(type->getMessageInfo());
+        occurring.insert(type->getMessageInfo());
     order.selection.types.removeIf(
         [&occurring](const ExportSelection::Type &type) { return !occurring.contains(type.info); });
 }

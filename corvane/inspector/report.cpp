@@ -55,7 +55,7 @@ QJsonArray messagesOf(Reception &reception)
 {
     const bool hasChecksum = reception.getTotals().crcErrors.has_value();
     QJsonArray messages;
-    for (const MessageStatistics *type : reception.getStatistics()->getAllMessageStatistics()) {
+    for (const auto &type : reception.getStatistics()->getData()->all) {
         const MessageStatisticsData &data = *type->getData();
         const QJsonValue crcErrors = hasChecksum ? number(data.crcErrors) : QJsonValue();
         messages.append(QJsonObject{
@@ -175,7 +175,7 @@ void writeMessages(QTextStream &out, Reception &reception)
     const bool hasChecksum = reception.getTotals().crcErrors.has_value();
     out << '\n'
         << tr("     Count   CRC errors  Gaps (missing epochs)  Interval         Message") << '\n';
-    for (const MessageStatistics *type : reception.getStatistics()->getAllMessageStatistics()) {
+    for (const auto &type : reception.getStatistics()->getData()->all) {
         const IntervalStatistics &intervals = type->getData()->intervals;
         const QString gaps
             = QStringLiteral("%1 (%2)").arg(intervals.gapCount).arg(intervals.missingEpochs);

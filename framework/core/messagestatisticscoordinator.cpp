@@ -5,6 +5,8 @@
 #include "messageinfo.h"
 #include "messagestatisticsdata.h"
 
+#include <algorithm>
+
 namespace corvane {
 
 MessageStatisticsData &
@@ -12,8 +14,14 @@ MessageStatisticsCoordinatorData::add(std::unique_ptr<MessageStatisticsData> dat
 {
     data->stream = &stream;
     all.push_back(std::make_unique<MessageStatistics>(std::move(data)));
-    list.append(all.back().get());
     return *all.back()->getData();
+}
+
+void MessageStatisticsCoordinatorData::setReceived(const MessageStatisticsData &type)
+{
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [&](const auto &one) { return one->getData() == &type; });
+    received.append(found->get());
 }
 
 MessageStatisticsData &MessageStatisticsCoordinatorData::addFor(const MessageInfo *message)
@@ -62,7 +70,7 @@ MessageStatisticsCoordinator::~MessageStatisticsCoordinator() = default;
 
 QList<MessageStatistics *> MessageStatisticsCoordinator::getAllMessageStatistics() const
 {
-    return d->list;
+    return d->received;
 }
 
 unsigned int MessageStatisticsCoordinator::getEventCount(CorvaneEvent::Type type) const

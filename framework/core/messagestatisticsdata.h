@@ -93,9 +93,11 @@ public:
 
     /** The statistics of a message id without description; made at first sight. */
     MessageStatisticsData &getFor(const FormatInfo *format, quint32 unknownNumber);
+    /** Adds \a type to the ones that were received. */
+    void setReceived(const MessageStatisticsData &type);
 
-    std::vector<std::unique_ptr<MessageStatistics>> all;
-    QList<MessageStatistics *> list; ///< The same; views ask for it once for each of their rows.
+    std::vector<std::unique_ptr<MessageStatistics>> all; ///< Also what only damage claims to be.
+    QList<MessageStatistics *> received; ///< Views ask for it once for each of their rows.
     std::array<quint64, 16> eventCounts{};
     StreamState stream;
 

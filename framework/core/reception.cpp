@@ -132,6 +132,8 @@ void Reception::countIn(MessageStatisticsData &type, const FrameHeader &frame)
 {
     if (frame.timeUs != Rhythm::noTime)
         statistics.getData()->stream.latestUs = frame.timeUs;
+    if (type.received == 0)
+        statistics.getData()->setReceived(type);
     type.count(frame);
 }
 

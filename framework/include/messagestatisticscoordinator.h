@@ -22,7 +22,7 @@ public:
     MessageStatisticsCoordinator(const MessageStatisticsCoordinator &) = delete;
     MessageStatisticsCoordinator &operator=(const MessageStatisticsCoordinator &) = delete;
 
-    /** One object per message type seen so far, in the order of first sight. Not owned. */
+    /** One object per message type received so far, in the order of first sight. Not owned. */
     QList<MessageStatistics *> getAllMessageStatistics() const;
     /** How many events of \a type have occurred; stays at its largest value. */
     unsigned int getEventCount(CorvaneEvent::Type type) const;

@@ -106,11 +106,14 @@ void tst_receptionpanels::statistics_showWhatIsReceived()
         if (i != 40)
             scene.reception.receiveFrame(scene.frame(i));
     scene.reception.receiveDamagedFrame(scene.frame(40), "damaged");
+    FrameHeader noise = scene.frame(41);
+    noise.messageInfo = scene.format.type("B");
+    scene.reception.receiveDamagedFrame(noise, "damaged");
     panel.refresh(); // nobody sees it
     QCOMPARE(tree->topLevelItemCount(), 0);
     panel.show();
     QCOMPARE(printed(*tree), lines(R"(
-        CRC Errors | 1 |  |
+        CRC Errors | 2 |  |
         Demo |  |  |
           +A | 99 | 50 ms (20 Hz) | 1 (1 epochs)
             +Gaps |  |  |

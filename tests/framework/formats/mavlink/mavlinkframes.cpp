@@ -217,8 +217,7 @@ QString DecoderRun::getSummary()
         QStringLiteral("%1 delivered %2")
             .arg(frames.size())
             .arg(QString::fromLatin1(hash.result().toHex()))};
-    const auto statistics = reception.getStatistics()->getAllMessageStatistics();
-    for (const MessageStatistics *type : statistics)
+    for (const auto &type : reception.getStatistics()->getData()->all)
         lines.append(QStringLiteral("%1: %2, %3 bad")
                          .arg(type->getMessageName())
                          .arg(type->getCount())

@@ -139,8 +139,7 @@ void tst_MavlinkCaptures::capture()
     QCOMPARE(run.getSenders(), expected.senders);
     int types = 0;
     QStringList damaged;
-    const auto statistics = run.getReception().getStatistics()->getAllMessageStatistics();
-    for (const MessageStatistics *type : statistics) {
+    for (const auto &type : run.getReception().getStatistics()->getData()->all) {
         types += type->getCount() > 0 ? 1 : 0;
         for (quint32 i = 0; i < type->getData()->crcErrors; ++i)
             damaged.append(type->getMessageName());
