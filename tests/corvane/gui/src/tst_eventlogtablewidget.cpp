@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
+#include <memory>
+
 using namespace corvane::test;
 
 namespace {
@@ -38,6 +40,7 @@ class TestEventLogTableWidget : public TestCase
 private Q_SLOTS:
     void declaresTwoSlots();
     void showsTimeAndMessage();
+    void cellsAreThoseOfAnyTable();
     void showsTheEntriesThatAreThere();
     void followsTheLog();
     void keepsItsColumnsWhenTheLogIsCleared();
@@ -72,6 +75,24 @@ void TestEventLogTableWidget::showsTimeAndMessage()
     for (int row = 0; row < 2; ++row)
         for (int column = 0; column < 2; ++column)
             QCOMPARE(table.item(row, column)->flags(), Qt::ItemIsEnabled);
+}
+
+void TestEventLogTableWidget::cellsAreThoseOfAnyTable()
+{
+    EventLogTableWidget table(nullptr);
+    table.addEntry(entry("B"));
+    table.addEntry(entry("A"));
+    QTableWidgetItem *cell = table.item(0, MessageColumn);
+    const std::unique_ptr<QTableWidgetItem> copy(cell->clone());
+    QCOMPARE(copy->text(), "B");
+    QCOMPARE(copy->flags(), Qt::ItemIsEnabled);
+    table.sortItems(MessageColumn);
+    QCOMPARE(messages(table), QStringList({"A", "B"}));
+    cell->setText("Seen");
+    cell->setToolTip("By the night watch");
+    QCOMPARE(messages(table), QStringList({"A", "Seen"}));
+    QCOMPARE(cell->toolTip(), "By the night watch");
+    QCOMPARE(copy->toolTip(), QString());
 }
 
 void TestEventLogTableWidget::showsTheEntriesThatAreThere()
