@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace corvane {
 
@@ -94,12 +95,10 @@ void SampleStore::push(const Sample &sample)
 
 void SampleStore::addRun()
 {
-    if (spare.empty()) {
+    if (spare)
+        runs.push_back(*std::exchange(spare, std::nullopt));
+    else
         runs.emplace_back(runSize);
-    } else {
-        runs.push_back(std::move(spare.back()));
-        spare.clear();
-    }
 }
 
 void SampleStore::insertLate(const Sample &sample)
@@ -133,7 +132,7 @@ void SampleStore::truncate(const Iterator &place)
 void SampleStore::clear()
 {
     runs.clear();
-    spare.clear();
+    spare.reset();
     count = 0;
 }
 
@@ -151,9 +150,9 @@ void SampleStore::thinNext()
     count += run->size();
     if (nextToThin > 0 && (run - 1)->size() + run->size() <= runSize) {
         (run - 1)->append(*run);
-        if (spare.empty()) {
+        if (!spare) {
             run->truncate(0);
-            spare.push_back(std::move(*run));
+            spare = std::move(*run);
         }
         runs.erase(run);
     } else {
@@ -163,10 +162,9 @@ void SampleStore::thinNext()
 
 size_t SampleStore::getBytes() const
 {
-    size_t bytes = 0;
-    for (const auto *all : {&runs, &spare})
-        for (const SampleRun &run : *all)
-            bytes += run.getBytes();
+    size_t bytes = spare ? spare->getBytes() : 0;
+    for (const SampleRun &run : runs)
+        bytes += run.getBytes();
     return bytes;
 }
 

@@ -107,7 +107,7 @@ private:
     size_t capacity;
     size_t runSize; ///< No run has more samples.
     std::vector<SampleRun> runs; ///< In the order of time; none is empty.
-    std::vector<SampleRun> spare; ///< An empty one at most, so that a full store takes no memory.
+    std::optional<SampleRun> spare; ///< An empty one, so that a full store takes no memory for it.
     size_t count = 0;
     size_t nextToThin = 0; ///< The number of a run.
 };
