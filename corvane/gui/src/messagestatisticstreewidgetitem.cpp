@@ -71,6 +71,8 @@ public:
     {
     }
 
+    QTreeWidgetItem *clone() const override { return new IntervalItem(*this); }
+
     // The count, which is all that changes, without cells for it.
     void setData(int column, int role, const QVariant &value) override
     {
@@ -118,12 +120,15 @@ public:
     {
     }
 
+    QTreeWidgetItem *clone() const override { return new GapItem(*this); }
+
     void setGap(const MessageStatistics::Gap &newGap)
     {
         gap = newGap;
         // A text that somebody has set instead stands for the old one.
         for (const int column : {NameColumn, CountColumn, RateColumn})
-            setData(column, Qt::DisplayRole, QVariant());
+            if (QTreeWidgetItem::data(column, Qt::DisplayRole).isValid())
+                setData(column, Qt::DisplayRole, QVariant());
         tellChange(NameColumn, RateColumn);
     }
 
