@@ -1,14 +1,9 @@
 #include "plotview.h"
 
-#include "plotcsv.h"
-
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QSaveFile>
-#include <QSvgGenerator>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -24,7 +19,6 @@ constexpr double panStep = 0.1;
 constexpr double secondsPerUs = 1e-6;
 // Smooth lines are slow; many points hide the steps of the others.
 constexpr size_t maximumSmoothPoints = 6000;
-constexpr double imageScale = 2.0;
 
 double secondsOf(qint64 timeUs)
 {
@@ -353,54 +347,6 @@ QString PlotView::getStateText() const
         text += tr("; cursor at %1").arg(time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")));
     }
     return text;
-}
-
-void PlotView::withLegend(const std::function<void()> &draw)
-{
-    legend->setVisible(true);
-    draw();
-    legend->setVisible(false);
-    requestRefresh();
-}
-
-QImage PlotView::toImage()
-{
-    QImage image;
-    refresh();
-    withLegend([&] { image = toPixmap(width(), height(), imageScale).toImage(); });
-    return image;
-}
-
-QString PlotView::saveAs(const QString &fileName)
-{
-    const QString suffix = QFileInfo(fileName).suffix().toLower();
-    if (!QStringList{QStringLiteral("png"), QStringLiteral("svg"), QStringLiteral("csv")}.contains(
-            suffix))
-        return tr("The name of the file must end in .png, .svg or .csv.");
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || !writeTo(file, suffix) || !file.commit())
-        return tr("Cannot write \"%1\": %2").arg(fileName, file.errorString());
-    return {};
-}
-
-bool PlotView::writeTo(QIODevice &device, const QString &suffix)
-{
-    if (suffix == QStringLiteral("csv"))
-        return writePlotCsv(device, series, window.getFromUs(), window.getToUs());
-    if (suffix == QStringLiteral("png"))
-        return toImage().save(&device, "PNG");
-    refresh();
-    QSvgGenerator generator;
-    generator.setOutputDevice(&device);
-    generator.setSize(size());
-    generator.setViewBox(rect());
-    generator.setTitle(tr("Plot"));
-    QCPPainter painter;
-    if (!painter.begin(&generator))
-        return false;
-    painter.setMode(QCPPainter::pmVectorized);
-    withLegend([&] { toPainter(&painter, width(), height()); });
-    return painter.end();
 }
 
 void PlotView::changeEvent(QEvent *event)
