@@ -22,7 +22,7 @@ using corvane::MessageStatisticsData;
 
 constexpr int typeCount = 400;
 constexpr int intervalCount = 64;
-constexpr int gapCount = 1000;
+constexpr int gapCount = 100;
 
 /** A coordinator with all it can have, and its view, shown. */
 struct Scene
