@@ -19,6 +19,7 @@
 
 #include <benchmark/benchmark.h>
 #include <google/protobuf/arena.h>
+#include <google/protobuf/dynamic_message.h>
 #include <google/protobuf/message.h>
 #include <google/protobuf/text_format.h>
 
@@ -100,7 +101,8 @@ void decodeAndReadEveryField(benchmark::State &state)
 void parseAlone(benchmark::State &state)
 {
     int64_t messages = 0;
-    const auto *prototype = format->getSchema()->getPrototype(format->getRoot());
+    google::protobuf::DynamicMessageFactory factory;
+    const auto *prototype = factory.GetPrototype(format->getRoot());
     for (auto _ : state) {
         for (QByteArrayView rest = recording; !rest.isEmpty(); ++messages) {
             ProtobufLength length;
@@ -151,8 +153,9 @@ message Process { uint32 pid = 1; string name = 2; State state = 3; double load 
             += QStringLiteral("processes { pid: %1 name: 'some-program' state: SLEEPING load: 0.%1 "
                               "bytes: 123456%1 celsius: 41.5 threads: [%1, 1, 2, 3] } ")
                    .arg(1000 + i);
+    google::protobuf::DynamicMessageFactory factory;
     const std::unique_ptr<google::protobuf::Message> message(
-        format->getSchema()->getPrototype(format->getRoot())->New());
+        factory.GetPrototype(format->getRoot())->New());
     if (!google::protobuf::TextFormat::ParseFromString(text.toStdString(), message.get()))
         return false;
     const QByteArray bytes = QByteArray::fromStdString(message->SerializeAsString());

@@ -1,16 +1,19 @@
 // Reads the input as a stream of Protocol Buffers messages, whole and in pieces: the same must be
 // found in both. On demand the whole input is one message, so that no length has to be guessed, and
-// messages are wrapped in others that tell time and sequence.
+// messages are wrapped in others that tell time and sequence, or compared with what libprotobuf
+// makes of them.
 
 #include "everyfeature.h"
 #include "fuzzchecks.h"
 #include "fuzzinput.h"
 #include "message.h"
 #include "overlayloader.h"
-#include "protobufmessage.h"
+#include "protobuflibrary.h"
 #include "protobufmessages.h"
 
 #include <array>
+#include <map>
+#include <memory>
 
 using namespace corvane;
 using namespace corvane::fuzz;
@@ -100,14 +103,14 @@ ProtobufFormat &formatFor(unsigned options)
     return (options & 4) == 0 ? everyFormat() : wrappedFormat((options >> 4) % envelopes.size());
 }
 
-/** Large messages are looked through before they are parsed. */
-void checkLarge(const ProtobufFormat &format, const QByteArray &message)
+/** Whether \a message is one, and of what, must be as libprotobuf has it. */
+void compareWithLibrary(const ProtobufFormat &format, const QByteArray &message)
 {
-    constexpr qsizetype largeSize = 70'000;
-    if (!message.isEmpty())
-        require(!ProtobufContent::isTooMuch(format.getRoot(),
-                                            message.repeated(largeSize / message.size() + 1)),
-                "so little fits into the memory");
+    static std::map<const ProtobufFormat *, std::unique_ptr<test::ProtobufLibrary>> libraries;
+    auto &library = libraries[&format];
+    if (library == nullptr)
+        library = std::make_unique<test::ProtobufLibrary>(format);
+    requireEqual(library->findDifference(message), QString(), "libprotobuf reads the same");
 }
 
 /** Without the events, which a slow run gathers by another second of the clock. */
@@ -136,7 +139,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t count)
 
     ProtobufFormat &format = formatFor(options);
     if ((options & 8) != 0)
-        checkLarge(format, stream);
+        compareWithLibrary(format, stream);
     if ((options & 2) != 0)
         stream = isVarint ? test::framedVarint(stream) : test::framedLittleEndian(stream);
 

@@ -84,20 +84,20 @@ void McapDecoder::readMessage(const McapMessage &message, const McapChannel &cha
         header.messageNumber = channel.id;
         return reception.receiveUnknownFrame(header);
     }
-    auto content = ProtobufContent::parse(type->schema, type->root, message.data);
-    if (content == nullptr)
+    auto content = std::make_unique<ProtobufContent>(type->schema, *type->layout, message.data);
+    if (content->getDamage() != ProtobufContent::Damage::None)
         return reception.addEvent(
             CorvaneEvent::LostBytes,
             tr("%1 bytes of channel %2, at offset %3 of the file, are no message of type %4.")
                 .arg(message.data.size())
                 .arg(channel.topic)
                 .arg(offset)
-                .arg(QString::fromStdString(type->root->full_name())),
+                .arg(QString::fromStdString(type->layout->getType()->full_name())),
             header.timeUs);
     header.messageInfo = type->info;
     if (!reception.receiveFrame(header))
         return;
-    const google::protobuf::Message &root = content->getRoot();
+    const ProtobufRecord &root = content->getRoot();
     reception.deliver(
         ProtobufMessage::create(type->info, std::move(content), root, header.timeUs, false));
 }

@@ -99,19 +99,20 @@ QString McapFormat::loadSchema(const McapSchema &schema)
     const auto *root = loaded.schema->findMessage(schema.name);
     if (root == nullptr)
         return tr("The schema %1 does not define the message type of that name.").arg(schema.name);
-    types[key] = {loaded.schema, root, nullptr};
+    types[key] = {loaded.schema, &loaded.schema->getLayout(root), nullptr};
     return {};
 }
 
 /** Returns what is wrong, or nothing. */
 QString McapFormat::describe()
 {
-    std::string package = types.begin()->second.root->file()->package();
+    std::string package = types.begin()->second.layout->getType()->file()->package();
     for (const auto &[key, type] : types)
-        if (type.root->file()->package() != package)
+        if (type.layout->getType()->file()->package() != package)
             package.clear();
     for (auto &[key, type] : types) {
-        type.info = ProtobufDescriber(*type.schema, &info, package).describe(type.root);
+        type.info
+            = ProtobufDescriber(*type.schema, &info, package).describe(type.layout->getType());
         if (type.info == nullptr)
             return tr("The message type %1 has too many parts to be shown.").arg(key.first);
     }

@@ -12,14 +12,11 @@
 #include <memory>
 #include <utility>
 
-namespace google::protobuf {
-class Descriptor;
-} // namespace google::protobuf
-
 class MessageInfo;
 
 namespace corvane {
 
+class ProtobufLayout;
 class ProtobufSchema;
 
 /**
@@ -37,7 +34,7 @@ public:
     struct Type
     {
         std::shared_ptr<const ProtobufSchema> schema;
-        const google::protobuf::Descriptor *root = nullptr; ///< In the schema.
+        const ProtobufLayout *layout = nullptr; ///< In the schema.
         const MessageInfo *info = nullptr; ///< Not owned.
     };
 

@@ -9,8 +9,6 @@
 
 #include <QCoreApplication>
 
-#include <google/protobuf/unknown_field_set.h>
-
 #include <algorithm>
 
 namespace corvane {
@@ -23,10 +21,15 @@ QString tr(const char *text)
 }
 
 /** Null for no field, and for one that an overlay made of parts of another. */
-const google::protobuf::FieldDescriptor *descriptorOf(const FieldInfo *field)
+const ProtobufField *fieldOf(const FieldInfo *field)
 {
     const auto *transmitted = dynamic_cast<const ProtobufFieldInfo *>(field);
-    return transmitted != nullptr ? transmitted->getDescriptor() : nullptr;
+    return transmitted != nullptr ? &transmitted->getField() : nullptr;
+}
+
+bool isWhole(const ProtobufContent &content)
+{
+    return content.getDamage() == ProtobufContent::Damage::None;
 }
 
 } // namespace
@@ -78,7 +81,7 @@ bool ProtobufDecoder::prepare() const
         return true;
     ProtobufLength length;
     const QByteArrayView rest = getRest();
-    if (format.getRoot() == nullptr || toPassOver != 0
+    if (format.getLayout() == nullptr || toPassOver != 0
         || ProtobufLength::read(rest, framing, length) != ProtobufLength::Result::Length
         || length.size > maximumSize
         || static_cast<quint64>(rest.size() - length.prefixSize) < length.size)
@@ -86,12 +89,13 @@ bool ProtobufDecoder::prepare() const
     const auto bytes = rest.sliced(length.prefixSize, static_cast<qsizetype>(length.size));
     next = std::make_unique<Next>();
     next->length = length;
-    next->content = ProtobufContent::parse(format.getSchema(), format.getRoot(), bytes);
+    next->content
+        = std::make_unique<ProtobufContent>(format.getSchema(), *format.getLayout(), bytes);
     const MessageInfoData &root = *format.getRootInfo()->getData();
-    const auto *timeField = descriptorOf(root.timeField);
-    if (next->content != nullptr && timeField != nullptr)
+    const ProtobufField *timeField = fieldOf(root.timeField);
+    if (isWhole(*next->content) && timeField != nullptr)
         next->timeUs
-            = readProtobufTimeUs(next->content->getRoot(), timeField, root.timeFieldUnitUs);
+            = readProtobufTimeUs(next->content->getRoot(), *timeField, root.timeFieldUnitUs);
     return true;
 }
 
@@ -102,7 +106,7 @@ std::optional<qint64> ProtobufDecoder::getNextTimeUs() const
 
 StreamDecoder::Step ProtobufDecoder::step()
 {
-    if (format.getRoot() == nullptr)
+    if (format.getLayout() == nullptr)
         return skipRest(tr("no definitions are loaded"));
     if (toPassOver != 0)
         return passOver();
@@ -131,7 +135,7 @@ StreamDecoder::Step ProtobufDecoder::takeNext()
     FrameHeader header;
     header.timeUs = next->timeUs.value_or(arrivalUs.value_or(DecodedMessage::unknownTime));
     const auto size = static_cast<size_t>(next->length.prefixSize) + next->length.size;
-    if (next->content != nullptr)
+    if (isWhole(*next->content))
         deliver(header);
     else
         reception.skipBytes(streamPosition, size, describeDamage(), header.timeUs);
@@ -141,9 +145,7 @@ StreamDecoder::Step ProtobufDecoder::takeNext()
 
 QString ProtobufDecoder::describeDamage() const
 {
-    const auto bytes
-        = getRest().sliced(next->length.prefixSize, static_cast<qsizetype>(next->length.size));
-    if (ProtobufContent::isTooMuch(format.getRoot(), bytes))
+    if (next->content->getDamage() == ProtobufContent::Damage::TooMuch)
         return tr("the message would take more than %1 bytes of memory")
             .arg(ProtobufContent::maximumMemory);
     return tr("they are no message of type %1").arg(format.getRootInfo()->getData()->name);
@@ -151,43 +153,32 @@ QString ProtobufDecoder::describeDamage() const
 
 void ProtobufDecoder::deliver(FrameHeader header)
 {
-    const google::protobuf::Message &root = next->content->getRoot();
+    const ProtobufRecord &root = next->content->getRoot();
     const auto &envelope = format.getInfo()->getData()->envelope;
     if (!envelope || envelope->type != format.getRootInfo()) {
         header.messageInfo = format.getRootInfo();
         return deliver(header, root, false);
     }
-    if (const auto *sequenceField = descriptorOf(envelope->sequenceField))
-        header.sequence = readProtobufInteger(root, sequenceField);
+    if (const ProtobufField *sequenceField = fieldOf(envelope->sequenceField))
+        header.sequence = readProtobufInteger(root, *sequenceField);
     for (const FieldInfo *field : envelope->contentFields) {
-        const auto *content = descriptorOf(field);
-        if (!root.GetReflection()->HasField(root, content))
+        const ProtobufSlot &content = root.at(fieldOf(field)->place);
+        if (content.count == 0)
             continue;
         header.messageInfo = field->getType().getSubMessageInfo();
-        return deliver(header, root.GetReflection()->GetMessage(root, content),
-                       field->isConfidential());
+        return deliver(header, *content.record, field->isConfidential());
     }
-    header.messageNumber = findUnknownNumber();
+    header.messageNumber = root.unknownNumber;
     reception.receiveUnknownFrame(header);
 }
 
 void ProtobufDecoder::deliver(const FrameHeader &header,
-                              const google::protobuf::Message &message,
+                              const ProtobufRecord &record,
                               bool confidential)
 {
     if (reception.receiveFrame(header))
         reception.deliver(ProtobufMessage::create(header.messageInfo, std::move(next->content),
-                                                  message, header.timeUs, confidential));
-}
-
-quint32 ProtobufDecoder::findUnknownNumber() const
-{
-    const google::protobuf::Message &root = next->content->getRoot();
-    const auto &unknown = root.GetReflection()->GetUnknownFields(root);
-    for (int i = 0; i < unknown.field_count(); ++i)
-        if (unknown.field(i).type() == google::protobuf::UnknownField::TYPE_LENGTH_DELIMITED)
-            return static_cast<quint32>(unknown.field(i).number());
-    return 0;
+                                                  record, header.timeUs, confidential));
 }
 
 StreamDecoder::Step ProtobufDecoder::takeOversized(const ProtobufLength &length)

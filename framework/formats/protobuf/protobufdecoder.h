@@ -10,14 +10,11 @@
 #include <memory>
 #include <vector>
 
-namespace google::protobuf {
-class Message;
-} // namespace google::protobuf
-
 namespace corvane {
 
 class ProtobufContent;
 class ProtobufFormat;
+class ProtobufRecord;
 class Reception;
 struct FrameHeader;
 
@@ -51,7 +48,7 @@ private:
     struct Next
     {
         ProtobufLength length;
-        std::unique_ptr<ProtobufContent> content; ///< Null where the bytes are no message.
+        std::unique_ptr<ProtobufContent> content; ///< Also where it is damaged.
         std::optional<qint64> timeUs; ///< The message's own.
     };
 
@@ -60,9 +57,7 @@ private:
     Step takeNext();
     QString describeDamage() const;
     void deliver(FrameHeader header);
-    void
-    deliver(const FrameHeader &header, const google::protobuf::Message &message, bool confidential);
-    quint32 findUnknownNumber() const;
+    void deliver(const FrameHeader &header, const ProtobufRecord &record, bool confidential);
     Step takeOversized(const ProtobufLength &length);
     Step passOver();
     Step skipRest(const QString &reason);

@@ -95,16 +95,6 @@ const MessageInfo *ProtobufDescriber::describe(const Descriptor *root)
     return info;
 }
 
-std::vector<const FieldDescriptor *> ProtobufDescriber::getFields(const Descriptor *type) const
-{
-    std::vector<const FieldDescriptor *> fields;
-    for (int i = 0; i < type->field_count(); ++i)
-        fields.push_back(type->field(i));
-    if (type->extension_range_count() > 0)
-        schema.getPool().FindAllExtensions(type, &fields);
-    return fields;
-}
-
 std::vector<const Descriptor *> ProtobufDescriber::getAnyContents(const Key &key) const
 {
     std::vector<const Descriptor *> contents;
@@ -122,8 +112,8 @@ void ProtobufDescriber::findCircles(const Descriptor *type)
     order[type] = number;
     lowest[type] = number;
     open.push_back(type);
-    for (const FieldDescriptor *field : getFields(type)) {
-        const Descriptor *inner = field->message_type();
+    for (const ProtobufField &field : schema.getLayout(type).getFields()) {
+        const Descriptor *inner = field.descriptor->message_type();
         if (inner == nullptr)
             continue;
         if (order.count(inner) == 0) {
@@ -157,11 +147,10 @@ quint64 ProtobufDescriber::countRows(const Key &key)
     if (known != rows.end())
         return known->second;
     quint64 count = 0;
-    for (const FieldDescriptor *field : getFields(key.type)) {
+    for (const ProtobufField &field : schema.getLayout(key.type).getFields()) {
         ++count;
-        const auto inner = field->message_type() != nullptr && !field->is_repeated()
-                               ? getInner(key, field->message_type())
-                               : std::nullopt;
+        const Descriptor *held = field.isList ? nullptr : field.descriptor->message_type();
+        const auto inner = held != nullptr ? getInner(key, held) : std::nullopt;
         if (inner && count <= maximumRows)
             count += countRows(*inner);
     }
@@ -202,7 +191,7 @@ const MessageInfo *ProtobufDescriber::makeMessage(const Key &key)
     if (first != nullptr)
         first->getData()->variants.append(message);
     messages[key] = message;
-    for (const FieldDescriptor *field : getFields(key.type))
+    for (const ProtobufField &field : schema.getLayout(key.type).getFields())
         if (messages.size() < maximumMessages)
             addField(message, key, field);
     if (isAny(key.type))
@@ -210,13 +199,14 @@ const MessageInfo *ProtobufDescriber::makeMessage(const Key &key)
     return message;
 }
 
-void ProtobufDescriber::addField(MessageInfo *message, const Key &key, const FieldDescriptor *field)
+void ProtobufDescriber::addField(MessageInfo *message, const Key &key, const ProtobufField &field)
 {
-    const auto inner
-        = field->message_type() != nullptr ? getInner(key, field->message_type()) : std::nullopt;
-    const FieldType type = inner ? FieldType(makeMessage(*inner)) : fieldTypeOf(field);
+    const Descriptor *held = field.descriptor->message_type();
+    const auto inner = held != nullptr ? getInner(key, held) : std::nullopt;
+    const FieldType type = inner ? FieldType(makeMessage(*inner)) : fieldTypeOf(field.descriptor);
     message->getData()->addField(
-        std::make_unique<ProtobufFieldInfo>(field, type, message, makeFieldData(field)), message);
+        std::make_unique<ProtobufFieldInfo>(field, type, message, makeFieldData(field.descriptor)),
+        message);
 }
 
 void ProtobufDescriber::addAnyContents(MessageInfo *message, const Key &key)

@@ -58,7 +58,6 @@ private:
         }
     };
 
-    std::vector<const FieldDescriptor *> getFields(const Descriptor *type) const;
     std::vector<const Descriptor *> getAnyContents(const Key &key) const;
     void findCircles(const Descriptor *type);
     /** How the type of a message field is entered; nothing where it is cut. */
@@ -67,7 +66,7 @@ private:
     void chooseMaximumLevel(const Key &root);
 
     const MessageInfo *makeMessage(const Key &key);
-    void addField(MessageInfo *message, const Key &key, const FieldDescriptor *field);
+    void addField(MessageInfo *message, const Key &key, const ProtobufField &field);
     void addAnyContents(MessageInfo *message, const Key &key);
     std::unique_ptr<FieldInfoData> makeFieldData(const FieldDescriptor *field);
     std::shared_ptr<const Enumeration>

@@ -1,42 +1,28 @@
 #include "protobuffieldinfo.h"
 
 #include "descriptions.h"
-
-#include <google/protobuf/repeated_field.h>
-#include <google/protobuf/unknown_field_set.h>
+#include "messageinfo.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 namespace corvane {
 
 using google::protobuf::FieldDescriptor;
-using google::protobuf::FileDescriptor;
-using google::protobuf::Reflection;
-
-namespace pb = google::protobuf;
 
 namespace {
 
-using Content = google::protobuf::Message;
-using MessageList = google::protobuf::RepeatedPtrField<Content>;
-
-const ProtobufMessage &asProtobuf(const Message *message)
+QString fromUtf8(const ProtobufText &text)
 {
-    return *static_cast<const ProtobufMessage *>(message);
+    return QString::fromUtf8(text.data, text.size);
 }
 
-QString fromUtf8(const std::string &text)
+unsigned int countCharacters(const ProtobufText &text)
 {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-unsigned int countCharacters(const std::string &text)
-{
-    const bool ascii = std::all_of(text.begin(), text.end(),
+    const bool ascii = std::all_of(text.data, text.data + text.size,
                                    [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-    return static_cast<unsigned int>(ascii ? static_cast<qsizetype>(text.size())
-                                           : fromUtf8(text).toUcs4().size());
+    return static_cast<unsigned int>(ascii ? text.size : fromUtf8(text).toUcs4().size());
 }
 
 QString cutText(QString text, qsizetype maximum)
@@ -46,267 +32,109 @@ QString cutText(QString text, qsizetype maximum)
     return text.left(maximum) + QStringLiteral("… (cut, %1 characters)").arg(text.size());
 }
 
-FieldValue bytesValue(const std::string &bytes)
+FieldValue bytesValue(const ProtobufText &bytes)
 {
-    const auto size = static_cast<qsizetype>(bytes.size());
-    const qsizetype shown = std::min(size, ProtobufFieldInfo::maximumBytes);
-    const FieldValue value = FieldValue::fromBytes(QByteArray(bytes.data(), shown));
-    if (shown == size)
+    const qsizetype shown = std::min(bytes.size, ProtobufFieldInfo::maximumBytes);
+    const FieldValue value = FieldValue::fromBytes(QByteArray(bytes.data, shown));
+    if (shown == bytes.size)
         return value;
     return FieldValue::fromText(value.toString(false, -1, FieldValue::DefaultRepresentation, false)
-                                + QStringLiteral("… (cut, %1 bytes)").arg(size));
+                                + QStringLiteral("… (cut, %1 bytes)").arg(bytes.size));
 }
 
-/** The unknown values of a field with a closed enumeration, up to \a wanted; their count. */
-int findUnknownValues(const ProtobufMessage &message,
-                      const FieldDescriptor *field,
-                      int wanted,
-                      int *value)
+double doubleOf(quint64 number)
 {
-    const auto &unknown = message.getReflection().GetUnknownFields(message.getMessage());
-    int count = 0;
-    for (int i = 0; i < unknown.field_count(); ++i) {
-        const google::protobuf::UnknownField &entry = unknown.field(i);
-        if (entry.number() != field->number()
-            || entry.type() != google::protobuf::UnknownField::TYPE_VARINT)
-            continue;
-        // Of a single field the last one counts.
-        if (count == wanted || !field->is_repeated())
-            *value = static_cast<int>(entry.varint());
-        ++count;
-    }
-    return count;
+    return std::bit_cast<double>(number);
 }
 
-QString textIn(const ProtobufMessage::Values &values)
+float floatOf(quint64 number)
 {
-    const std::string &text = *static_cast<const std::string *>(values.data);
-    const bool ascii = text.size() == values.count;
-    return ascii ? QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()))
-                 : fromUtf8(text);
+    return std::bit_cast<float>(static_cast<quint32>(number));
 }
-
-// What libprotobuf offers in the place of these lists reads each element by a virtual call.
-QT_WARNING_PUSH
-QT_WARNING_DISABLE_DEPRECATED
-
-template <typename Number>
-ProtobufMessage::Values numbersOf(const ProtobufMessage &message, const FieldDescriptor *field)
-{
-    const auto &list
-        = message.getReflection().GetRepeatedField<Number>(message.getMessage(), field);
-    return {static_cast<unsigned int>(list.size()), list.data()};
-}
-
-ProtobufMessage::Values messagesOf(const ProtobufMessage &message, const FieldDescriptor *field)
-{
-    const auto &list
-        = message.getReflection().GetRepeatedPtrField<Content>(message.getMessage(), field);
-    return {static_cast<unsigned int>(list.size()), &list};
-}
-
-QT_WARNING_POP
 
 } // namespace
 
-ProtobufFieldInfo::ProtobufFieldInfo(const FieldDescriptor *descriptor,
+ProtobufFieldInfo::ProtobufFieldInfo(const ProtobufField &field,
                                      const FieldType &type,
                                      const MessageInfo *owner,
                                      std::unique_ptr<FieldInfoData> data)
     : DecodedFieldInfo(type, std::move(data))
-    , descriptor(descriptor)
+    , field(field)
     , owner(owner)
-    , cppType(descriptor->cpp_type())
+    , cppType(field.descriptor->cpp_type())
     , isText(isStringField())
-    , isList(descriptor->is_repeated())
-    , hasPresence(descriptor->has_presence())
-    , isMap(descriptor->is_map())
-    , closedEnumeration(descriptor->cpp_type() == FieldDescriptor::CPPTYPE_ENUM
-                        && descriptor->file()->syntax() == FileDescriptor::SYNTAX_PROTO2)
 {
 }
 
 bool ProtobufFieldInfo::isPresent(const Message *message) const
 {
-    if (message->getInfo() != owner)
-        return false;
-    const ProtobufMessage &owning = asProtobuf(message);
-    return isList ? getValues(owning).count != 0 : hasSingle(owning);
+    const ProtobufSlot *slot = findSlot(message);
+    return slot != nullptr && slot->count != 0;
 }
 
 unsigned int ProtobufFieldInfo::getNumberOfValues(const Message *message) const
 {
-    return message->getInfo() == owner ? getValues(asProtobuf(message)).count : 0;
-}
-
-const ProtobufMessage::Values &ProtobufFieldInfo::getValues(const ProtobufMessage &owning) const
-{
-    return owning.getValues(this, [&] { return findValues(owning); });
-}
-
-ProtobufMessage::Values ProtobufFieldInfo::findValues(const ProtobufMessage &owning) const
-{
-    if (isText) {
-        const std::string &text = getTextOf(owning);
-        return {countCharacters(text), &text};
-    }
-    if (!isList)
-        return {hasSingle(owning) ? 1U : 0U, nullptr};
-    switch (cppType) {
-    case FieldDescriptor::CPPTYPE_INT32:
-        return numbersOf<pb::int32>(owning, descriptor);
-    case FieldDescriptor::CPPTYPE_INT64:
-        return numbersOf<pb::int64>(owning, descriptor);
-    case FieldDescriptor::CPPTYPE_UINT32:
-        return numbersOf<pb::uint32>(owning, descriptor);
-    case FieldDescriptor::CPPTYPE_UINT64:
-        return numbersOf<pb::uint64>(owning, descriptor);
-    case FieldDescriptor::CPPTYPE_DOUBLE:
-        return numbersOf<double>(owning, descriptor);
-    case FieldDescriptor::CPPTYPE_FLOAT:
-        return numbersOf<float>(owning, descriptor);
-    case FieldDescriptor::CPPTYPE_BOOL:
-        return numbersOf<bool>(owning, descriptor);
-    case FieldDescriptor::CPPTYPE_MESSAGE:
-        return messagesOf(owning, descriptor);
-    default: {
-        const int known = owning.getReflection().FieldSize(owning.getMessage(), descriptor);
-        int unused = 0;
-        const int unknown
-            = closedEnumeration ? findUnknownValues(owning, descriptor, -1, &unused) : 0;
-        return {static_cast<unsigned int>(known + unknown), nullptr};
-    }
-    }
-}
-
-bool ProtobufFieldInfo::hasSingle(const ProtobufMessage &owning) const
-{
-    if (!hasPresence || owning.getReflection().HasField(owning.getMessage(), descriptor))
-        return true;
-    int unused = 0;
-    return closedEnumeration && findUnknownValues(owning, descriptor, 0, &unused) != 0;
+    const ProtobufSlot *slot = findSlot(message);
+    if (slot == nullptr || slot->count == 0)
+        return 0;
+    return isText ? countCharacters(slot->getText()) : slot->count;
 }
 
 FieldValue ProtobufFieldInfo::readValue(const Message *message, unsigned int index) const
 {
-    if (message->getInfo() != owner)
+    const ProtobufSlot *slot = findSlot(message);
+    if (slot == nullptr || index >= (isText ? getNumberOfValues(message) : slot->count))
         return FieldValue::invalid();
-    const ProtobufMessage &owning = asProtobuf(message);
-    const ProtobufMessage::Values &values = getValues(owning);
-    if (index >= values.count)
-        return FieldValue::invalid();
+    if (cppType == FieldDescriptor::CPPTYPE_STRING)
+        return readText(*slot, index);
     if (cppType == FieldDescriptor::CPPTYPE_MESSAGE)
-        return readSubMessage(owning, values, index);
-    if (isText)
-        return FieldValue::fromCharacter(
-            textIn(values).toUcs4().value(static_cast<qsizetype>(index)));
-    if (values.data != nullptr)
-        return readNumber(values.data, index);
-    return isList ? readElement(owning, static_cast<int>(index)) : readSingle(owning);
-}
-
-FieldValue ProtobufFieldInfo::readSubMessage(const ProtobufMessage &owning,
-                                             const ProtobufMessage::Values &values,
-                                             unsigned int index) const
-{
-    if (getType().getCode() != FieldType::SubMessage)
-        return FieldValue::fromText(QStringLiteral("(nested too deeply to be shown)"));
-    const auto read = [&]() -> const Content & {
-        if (!isList)
-            return owning.getReflection().GetMessage(owning.getMessage(), descriptor);
-        return isMap ? owning.getMapEntry(descriptor, static_cast<int>(index))
-                     : static_cast<const MessageList *>(values.data)->Get(static_cast<int>(index));
-    };
-    return FieldValue::fromSubMessage(owning.getPart(this, index, values.count, read));
-}
-
-FieldValue ProtobufFieldInfo::readSingle(const ProtobufMessage &owning) const
-{
-    const Content &message = owning.getMessage();
-    const Reflection &reflection = owning.getReflection();
+        return readSubMessage(message, field.isList ? *slot->records[index] : *slot->record);
+    const quint64 number = field.isList ? slot->numbers[index] : slot->number;
     switch (cppType) {
     case FieldDescriptor::CPPTYPE_INT32:
-        return FieldValue::fromSigned(reflection.GetInt32(message, descriptor), 32);
+    case FieldDescriptor::CPPTYPE_ENUM:
+        return FieldValue::fromSigned(static_cast<qint64>(number), 32);
     case FieldDescriptor::CPPTYPE_INT64:
-        return FieldValue::fromSigned(reflection.GetInt64(message, descriptor), 64);
+        return FieldValue::fromSigned(static_cast<qint64>(number), 64);
     case FieldDescriptor::CPPTYPE_UINT32:
-        return FieldValue::fromUnsigned(reflection.GetUInt32(message, descriptor), 32);
+        return FieldValue::fromUnsigned(number, 32);
     case FieldDescriptor::CPPTYPE_UINT64:
-        return FieldValue::fromUnsigned(reflection.GetUInt64(message, descriptor), 64);
+        return FieldValue::fromUnsigned(number, 64);
     case FieldDescriptor::CPPTYPE_DOUBLE:
-        return FieldValue::fromDouble(reflection.GetDouble(message, descriptor));
+        return FieldValue::fromDouble(doubleOf(number));
     case FieldDescriptor::CPPTYPE_FLOAT:
-        return FieldValue::fromFloat(reflection.GetFloat(message, descriptor));
+        return FieldValue::fromFloat(floatOf(number));
     case FieldDescriptor::CPPTYPE_BOOL:
-        return FieldValue::fromBoolean(reflection.GetBool(message, descriptor));
-    case FieldDescriptor::CPPTYPE_ENUM: {
-        int number = reflection.GetEnumValue(message, descriptor);
-        if (closedEnumeration && !reflection.HasField(message, descriptor))
-            findUnknownValues(owning, descriptor, 0, &number);
-        return FieldValue::fromSigned(number, 32);
-    }
-    case FieldDescriptor::CPPTYPE_STRING: // bytes; a text is a string field
-        return bytesValue(getTextOf(owning));
-    case FieldDescriptor::CPPTYPE_MESSAGE:
-        break; // readSubMessage()
-    }
-    return FieldValue::invalid();
-}
-
-FieldValue ProtobufFieldInfo::readNumber(const void *numbers, unsigned int index) const
-{
-    switch (cppType) {
-    case FieldDescriptor::CPPTYPE_INT32:
-        return FieldValue::fromSigned(static_cast<const pb::int32 *>(numbers)[index], 32);
-    case FieldDescriptor::CPPTYPE_INT64:
-        return FieldValue::fromSigned(static_cast<const pb::int64 *>(numbers)[index], 64);
-    case FieldDescriptor::CPPTYPE_UINT32:
-        return FieldValue::fromUnsigned(static_cast<const pb::uint32 *>(numbers)[index], 32);
-    case FieldDescriptor::CPPTYPE_UINT64:
-        return FieldValue::fromUnsigned(static_cast<const pb::uint64 *>(numbers)[index], 64);
-    case FieldDescriptor::CPPTYPE_DOUBLE:
-        return FieldValue::fromDouble(static_cast<const double *>(numbers)[index]);
-    case FieldDescriptor::CPPTYPE_FLOAT:
-        return FieldValue::fromFloat(static_cast<const float *>(numbers)[index]);
-    case FieldDescriptor::CPPTYPE_BOOL:
-        return FieldValue::fromBoolean(static_cast<const bool *>(numbers)[index]);
+        return FieldValue::fromBoolean(number != 0);
     default:
         return FieldValue::invalid();
     }
 }
 
-FieldValue ProtobufFieldInfo::readElement(const ProtobufMessage &owning, int index) const
+FieldValue ProtobufFieldInfo::readSubMessage(const Message *message,
+                                             const ProtobufRecord &part) const
 {
-    const Content &message = owning.getMessage();
-    const Reflection &reflection = owning.getReflection();
-    if (cppType == FieldDescriptor::CPPTYPE_ENUM) {
-        const int known = reflection.FieldSize(message, descriptor);
-        int number = 0;
-        if (index < known)
-            number = reflection.GetRepeatedEnumValue(message, descriptor, index);
-        else
-            findUnknownValues(owning, descriptor, index - known, &number);
-        return FieldValue::fromSigned(number, 32);
-    }
-    std::string unused; // a message keeps its texts itself
-    const std::string &text
-        = reflection.GetRepeatedStringReference(message, descriptor, index, &unused);
-    return descriptor->type() == FieldDescriptor::TYPE_BYTES
+    if (getType().getCode() != FieldType::SubMessage)
+        return FieldValue::fromText(QStringLiteral("(nested too deeply to be shown)"));
+    return FieldValue::fromSubMessage(
+        static_cast<const ProtobufMessage *>(message)->getPart(this, part));
+}
+
+FieldValue ProtobufFieldInfo::readText(const ProtobufSlot &slot, unsigned int index) const
+{
+    if (isText)
+        return FieldValue::fromCharacter(
+            fromUtf8(slot.getText()).toUcs4().value(static_cast<qsizetype>(index)));
+    const ProtobufText text = field.isList ? slot.texts[index] : slot.getText();
+    return field.type == FieldDescriptor::TYPE_BYTES
                ? bytesValue(text)
                : FieldValue::fromText(cutText(fromUtf8(text), maximumCharacters));
 }
 
-const std::string &ProtobufFieldInfo::getTextOf(const ProtobufMessage &owning) const
-{
-    static std::string unused; // a message keeps its texts itself
-    return owning.getReflection().GetStringReference(owning.getMessage(), descriptor, &unused);
-}
-
 QString ProtobufFieldInfo::readString(const Message *message) const
 {
-    if (message->getInfo() != owner)
-        return {};
-    return cutText(textIn(getValues(asProtobuf(message))), maximumCharacters);
+    return isPresent(message) ? cutText(fromUtf8(findSlot(message)->getText()), maximumCharacters)
+                              : QString();
 }
 
 ProtobufAnyFieldInfo::ProtobufAnyFieldInfo(const google::protobuf::Descriptor *content,
@@ -323,34 +151,29 @@ unsigned int ProtobufAnyFieldInfo::getNumberOfValues(const Message *message) con
 {
     if (message->getInfo() != owner)
         return 0;
-    const ProtobufMessage &any = asProtobuf(message);
-    const Content *resolved = any.resolveAny(any.getMessage());
-    return resolved != nullptr && resolved->GetDescriptor() == content ? 1 : 0;
+    const ProtobufRecord *resolved = static_cast<const ProtobufMessage *>(message)->resolveAny();
+    return resolved != nullptr && resolved->getLayout().getType() == content ? 1 : 0;
 }
 
 FieldValue ProtobufAnyFieldInfo::readValue(const Message *message, unsigned int index) const
 {
     if (index >= getNumberOfValues(message))
         return FieldValue::invalid();
-    const ProtobufMessage &any = asProtobuf(message);
-    return FieldValue::fromSubMessage(any.getPart(
-        this, index, 1, [&]() -> const Content & { return *any.resolveAny(any.getMessage()); }));
+    const auto &any = *static_cast<const ProtobufMessage *>(message);
+    return FieldValue::fromSubMessage(any.getPart(this, *any.resolveAny()));
 }
 
-std::optional<quint64> readProtobufInteger(const Content &message, const FieldDescriptor *field)
+std::optional<quint64> readProtobufInteger(const ProtobufRecord &record, const ProtobufField &field)
 {
-    const Reflection *reflection = message.GetReflection();
-    if (field->is_repeated() || (field->has_presence() && !reflection->HasField(message, field)))
+    const ProtobufSlot &slot = record.at(field.place);
+    if (field.isList || slot.count == 0)
         return std::nullopt;
-    switch (field->cpp_type()) {
+    switch (field.descriptor->cpp_type()) {
     case FieldDescriptor::CPPTYPE_INT32:
-        return static_cast<quint64>(reflection->GetInt32(message, field));
     case FieldDescriptor::CPPTYPE_INT64:
-        return static_cast<quint64>(reflection->GetInt64(message, field));
     case FieldDescriptor::CPPTYPE_UINT32:
-        return reflection->GetUInt32(message, field);
     case FieldDescriptor::CPPTYPE_UINT64:
-        return reflection->GetUInt64(message, field);
+        return slot.number;
     default:
         return std::nullopt;
     }
@@ -365,14 +188,14 @@ std::optional<qint64> timeOf(double us)
     return std::abs(us) < furthest ? std::optional(static_cast<qint64>(us)) : std::nullopt;
 }
 
-std::optional<qint64> readStampUs(const Content &stamp)
+std::optional<qint64> readStampUs(const ProtobufRecord &stamp)
 {
-    const auto *seconds = stamp.GetDescriptor()->FindFieldByName("seconds");
-    const auto *nanos = stamp.GetDescriptor()->FindFieldByName("nanos");
+    const ProtobufField *seconds = stamp.getLayout().find("seconds");
+    const ProtobufField *nanos = stamp.getLayout().find("nanos");
     if (seconds == nullptr || nanos == nullptr)
         return std::nullopt;
-    const auto wholeSeconds = static_cast<qint64>(readProtobufInteger(stamp, seconds).value_or(0));
-    const auto rest = static_cast<qint64>(readProtobufInteger(stamp, nanos).value_or(0));
+    const auto wholeSeconds = static_cast<qint64>(readProtobufInteger(stamp, *seconds).value_or(0));
+    const auto rest = static_cast<qint64>(readProtobufInteger(stamp, *nanos).value_or(0));
     constexpr qint64 furthest = 9'000'000'000'000;
     if (wholeSeconds > furthest || wholeSeconds < -furthest)
         return std::nullopt;
@@ -382,27 +205,26 @@ std::optional<qint64> readStampUs(const Content &stamp)
 } // namespace
 
 std::optional<qint64>
-readProtobufTimeUs(const Content &message, const FieldDescriptor *field, qint64 unitUs)
+readProtobufTimeUs(const ProtobufRecord &record, const ProtobufField &field, qint64 unitUs)
 {
-    const Reflection *reflection = message.GetReflection();
-    if (field->is_repeated() || (field->has_presence() && !reflection->HasField(message, field)))
+    const ProtobufSlot &slot = record.at(field.place);
+    if (field.isList || slot.count == 0)
         return std::nullopt;
-    switch (field->cpp_type()) {
+    switch (field.descriptor->cpp_type()) {
     case FieldDescriptor::CPPTYPE_MESSAGE:
-        return readStampUs(reflection->GetMessage(message, field));
+        return readStampUs(*slot.record);
     case FieldDescriptor::CPPTYPE_DOUBLE:
-        return timeOf(reflection->GetDouble(message, field) * static_cast<double>(unitUs));
+        return timeOf(doubleOf(slot.number) * static_cast<double>(unitUs));
     case FieldDescriptor::CPPTYPE_FLOAT:
-        return timeOf(static_cast<double>(reflection->GetFloat(message, field))
-                      * static_cast<double>(unitUs));
+        return timeOf(static_cast<double>(floatOf(slot.number)) * static_cast<double>(unitUs));
     case FieldDescriptor::CPPTYPE_UINT64:
-        if (reflection->GetUInt64(message, field) > std::numeric_limits<qint64>::max())
+        if (slot.number > std::numeric_limits<qint64>::max())
             return std::nullopt;
         break;
     default:
         break;
     }
-    const auto number = readProtobufInteger(message, field);
+    const auto number = readProtobufInteger(record, field);
     qint64 us = 0;
     if (!number || qMulOverflow(static_cast<qint64>(*number), unitUs, &us))
         return std::nullopt;

@@ -7,7 +7,6 @@
 #include <google/protobuf/descriptor.h>
 
 #include <optional>
-#include <string>
 
 namespace corvane {
 
@@ -24,15 +23,18 @@ public:
     static constexpr qsizetype maximumBytes = 256;
     static constexpr qsizetype maximumCharacters = 100'000;
 
-    /** \a type: of a message field too deep to be described, FieldType::Text. */
-    ProtobufFieldInfo(const google::protobuf::FieldDescriptor *descriptor,
+    /**
+     * \a field: belongs to the schema, which must outlive this. \a type: of a message field too
+     * deep to be described, FieldType::Text.
+     */
+    ProtobufFieldInfo(const ProtobufField &field,
                       const FieldType &type,
                       const MessageInfo *owner,
                       std::unique_ptr<FieldInfoData> data);
 
     unsigned int getNumberOfValues(const Message *message) const override;
 
-    const google::protobuf::FieldDescriptor *getDescriptor() const { return descriptor; }
+    const ProtobufField &getField() const { return field; }
 
     /** Whether the message has the field; other than the number of values, also of an empty text.
      */
@@ -43,25 +45,21 @@ protected:
     QString readString(const Message *message) const override;
 
 private:
-    const ProtobufMessage::Values &getValues(const ProtobufMessage &owning) const;
-    ProtobufMessage::Values findValues(const ProtobufMessage &owning) const;
-    bool hasSingle(const ProtobufMessage &owning) const;
-    FieldValue readSingle(const ProtobufMessage &owning) const;
-    FieldValue readNumber(const void *numbers, unsigned int index) const;
-    FieldValue readElement(const ProtobufMessage &owning, int index) const;
-    FieldValue readSubMessage(const ProtobufMessage &owning,
-                              const ProtobufMessage::Values &values,
-                              unsigned int index) const;
-    const std::string &getTextOf(const ProtobufMessage &owning) const;
+    /** Null where \a message has no such field. */
+    const ProtobufSlot *findSlot(const Message *message) const
+    {
+        return message->getInfo() == owner
+                   ? &static_cast<const ProtobufMessage *>(message)->getRecord().at(field.place)
+                   : nullptr;
+    }
 
-    const google::protobuf::FieldDescriptor *descriptor;
+    FieldValue readSubMessage(const Message *message, const ProtobufRecord &part) const;
+    FieldValue readText(const ProtobufSlot &slot, unsigned int index) const;
+
+    const ProtobufField &field;
     const MessageInfo *owner; ///< Not owned.
     google::protobuf::FieldDescriptor::CppType cppType;
     bool isText; ///< As isStringField().
-    bool isList; ///< Other than isRepeated(), no string field.
-    bool hasPresence;
-    bool isMap;
-    bool closedEnumeration; ///< Numbers that it does not name end among the unknown fields.
 };
 
 /** What an Any holds when it is of one certain type: no value otherwise. */
@@ -84,15 +82,13 @@ private:
 };
 
 /** An integer field as 64 bits (signed ones sign-extended); nothing for other fields, or none. */
-std::optional<quint64> readProtobufInteger(const google::protobuf::Message &message,
-                                           const google::protobuf::FieldDescriptor *field);
+std::optional<quint64> readProtobufInteger(const ProtobufRecord &record,
+                                           const ProtobufField &field);
 /**
  * A time field in microseconds: a number of units of \a unitUs, or a message with "seconds" and
  * "nanos". Nothing where it is absent or out of range.
  */
 CORVANEFRAMEWORK_EXPORT std::optional<qint64>
-readProtobufTimeUs(const google::protobuf::Message &message,
-                   const google::protobuf::FieldDescriptor *field,
-                   qint64 unitUs);
+readProtobufTimeUs(const ProtobufRecord &record, const ProtobufField &field, qint64 unitUs);
 
 } // namespace corvane

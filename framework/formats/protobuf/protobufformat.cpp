@@ -89,7 +89,7 @@ StreamFormat::LoadResult ProtobufFormat::loadFiles(const QStringList &files)
                 loaded.warnings};
     }
     schema = loaded.schema;
-    root = found;
+    layout = &schema->getLayout(found);
     rootInfo = described;
     Catalogue::getInstance()->announceChange();
     return {{}, loaded.warnings};

@@ -53,7 +53,12 @@ public:
     /** Null until definitions are loaded, as are the others. */
     const std::shared_ptr<const ProtobufSchema> &getSchema() const { return schema; }
 
-    const google::protobuf::Descriptor *getRoot() const { return root; }
+    const ProtobufLayout *getLayout() const { return layout; }
+
+    const google::protobuf::Descriptor *getRoot() const
+    {
+        return layout != nullptr ? layout->getType() : nullptr;
+    }
 
     const MessageInfo *getRootInfo() const { return rootInfo; }
 
@@ -65,7 +70,7 @@ private:
     QString rootName;
     QStringList importFolders;
     std::shared_ptr<const ProtobufSchema> schema;
-    const google::protobuf::Descriptor *root = nullptr;
+    const ProtobufLayout *layout = nullptr; ///< Of the root, in the schema.
     const MessageInfo *rootInfo = nullptr; ///< Not owned.
 };
 

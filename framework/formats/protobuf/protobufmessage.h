@@ -2,18 +2,16 @@
 
 #include "corvaneframework_export.h"
 #include "decodedmessage.h"
-#include "fieldinfo.h"
+#include "protobufarena.h"
+#include "protobuflayout.h"
 #include "protobufschema.h"
 
 #include <QByteArrayView>
 #include <QHash>
 
-#include <google/protobuf/arena.h>
-#include <google/protobuf/message.h>
-
 #include <memory>
-#include <utility>
-#include <vector>
+
+class FieldInfo;
 
 namespace corvane {
 
@@ -24,51 +22,44 @@ public:
     /** A message that would take more memory is not parsed. */
     static constexpr quint64 maximumMemory = 512 * 1024 * 1024;
 
-    /** Parses \a bytes as a message of type \a root; null where they are none, or too much. */
-    static std::unique_ptr<ProtobufContent> parse(std::shared_ptr<const ProtobufSchema> schema,
-                                                  const google::protobuf::Descriptor *root,
-                                                  QByteArrayView bytes);
+    enum class Damage {
+        None,
+        NoMessage, ///< Of that type.
+        TooMuch ///< For maximumMemory.
+    };
 
-    /** Whether \a bytes were refused because of maximumMemory. */
-    static bool isTooMuch(const google::protobuf::Descriptor *root, QByteArrayView bytes);
+    /** Parses \a bytes as a message of type \a layout, which belongs to \a schema. */
+    ProtobufContent(std::shared_ptr<const ProtobufSchema> schema,
+                    const ProtobufLayout &layout,
+                    QByteArrayView bytes);
 
-    const ProtobufSchema &getSchema() const { return *schema; }
+    Damage getDamage() const { return damage; }
 
-    const google::protobuf::Message &getRoot() const { return *root; }
+    /** The message as a whole; only to be called where there is no damage. */
+    const ProtobufRecord &getRoot() const { return *root; }
 
     QByteArrayView getBytes() const { return bytes; }
 
     /** Where whatever belongs to the message can be put. */
-    google::protobuf::Arena *getArena() { return &arena; }
+    ProtobufArena &getArena() { return arena; }
 
-    using Key = const google::protobuf::Message *;
-
-    /** What the Any messages hold that were asked for it: in the arena, or null. */
-    QHash<Key, Key> &getResolved() { return resolved; }
-
-    /** The entries of the maps that were asked for them, in the order of their keys. */
-    std::vector<Key> &getMapEntries(Key message, const google::protobuf::FieldDescriptor *map)
-    {
-        return maps[{message, map}];
-    }
+    /** What \a any, an Any, holds; null where its type is not known or its bytes are none of it. */
+    const ProtobufRecord *resolveAny(const ProtobufRecord &any);
 
 private:
-    ProtobufContent(std::shared_ptr<const ProtobufSchema> schema, QByteArrayView bytes);
-
-    std::shared_ptr<const ProtobufSchema>
-        schema; ///< Outlives the arena, which needs it to the end.
-    google::protobuf::Arena arena;
-    const google::protobuf::Message *root = nullptr; ///< In the arena.
+    std::shared_ptr<const ProtobufSchema> schema; ///< Has the layouts.
+    ProtobufArena arena;
+    const ProtobufRecord *root = nullptr; ///< In the arena.
     QByteArrayView bytes; ///< In the arena.
-    QHash<Key, Key> resolved;
-    QHash<std::pair<Key, const google::protobuf::FieldDescriptor *>, std::vector<Key>> maps;
+    Damage damage = Damage::None;
+    QHash<const ProtobufRecord *, const ProtobufRecord *> resolved;
 };
 
 /**
  * A message of a stream, or a sub-message of one, which is made when first asked for.
  *
- * What has been found out is kept for whoever asks next, so a message with all its parts is read by
- * one thread at a time.
+ * What was made is kept for whoever asks next, so a message with all its parts is read by one
+ * thread at a time.
  */
 class CORVANEFRAMEWORK_EXPORT ProtobufMessage final : public DecodedMessage
 {
@@ -76,95 +67,45 @@ public:
     /**
      * A main message; the caller owns one reference.
      *
-     * \a message: the root of \a content, or what an envelope holds.
+     * \a record: the root of \a content, or what an envelope holds.
      */
     static const ProtobufMessage *create(const MessageInfo *info,
                                          std::unique_ptr<ProtobufContent> content,
-                                         const google::protobuf::Message &message,
+                                         const ProtobufRecord &record,
                                          qint64 timeUs,
                                          bool confidential);
 
     /** The bytes that came, with the envelope; empty for a sub-message. */
     QByteArrayView getBytes() const override;
 
-    const google::protobuf::Message &getMessage() const { return message; }
+    const ProtobufRecord &getRecord() const { return record; }
 
-    /** As that of the message, which is asked for so often that the way there counts. */
-    const google::protobuf::Reflection &getReflection() const { return reflection; }
-
-    /** What a field has in a message. */
-    struct Values
+    /** The sub-message \a part of \a field; the same whenever it is asked for. */
+    const ProtobufMessage *getPart(const FieldInfo *field, const ProtobufRecord &part) const
     {
-        unsigned int count = 0;
-        /** What libprotobuf has there: of numbers the first one, of messages the list, a text. */
-        const void *data = nullptr;
-    };
-
-    /** What \a find finds for \a field, which is not asked again while it is asked for that. */
-    template <typename Find>
-    const Values &getValues(const FieldInfo *field, Find &&find) const
-    {
-        if (lastField != field) {
-            lastValues = find();
-            lastField = field;
-        }
-        return lastValues;
+        if (part.message == nullptr)
+            makePart(field, part);
+        return part.message;
     }
 
-    /**
-     * The sub-message at \a index of the \a count ones of \a field; the same whenever it is asked
-     * for. Made of what \a read returns.
-     */
-    template <typename Read>
-    const ProtobufMessage *
-    getPart(const FieldInfo *field, unsigned int index, unsigned int count, Read &&read) const
-    {
-        const Parts &known = findParts(field, count);
-        if (known.messages[index] == nullptr)
-            makePart(known, index, read());
-        return known.messages[index];
-    }
-
-    /**
-     * The entry of a map that is the \a index-th one by its key. Maps have no order of their own;
-     * this way an entry keeps its place from message to message.
-     */
-    const google::protobuf::Message &getMapEntry(const google::protobuf::FieldDescriptor *map,
-                                                 int index) const;
-    /** What an Any holds, or null where its type is not known or its bytes are no such message. */
-    const google::protobuf::Message *resolveAny(const google::protobuf::Message &any) const;
+    /** As ProtobufContent::resolveAny(), of this message. */
+    const ProtobufRecord *resolveAny() const { return content->resolveAny(record); }
 
 private:
-    /** The sub-messages of one field, each made when it is asked for; in the arena. */
-    struct Parts
-    {
-        const FieldInfo *field;
-        const ProtobufMessage **messages; ///< Null for those that are not made.
-        ProtobufMessage *places; ///< Where they are made.
-        Parts *next;
-    };
-
     ProtobufMessage(const MessageInfo *info,
                     std::unique_ptr<ProtobufContent> content,
-                    const google::protobuf::Message &message,
+                    const ProtobufRecord &record,
                     qint64 timeUs,
                     bool confidential);
-    ProtobufMessage(const MessageInfo *info,
+    ProtobufMessage(const FieldInfo *field,
                     const ProtobufMessage *owner,
-                    const google::protobuf::Message &message,
-                    bool confidential);
+                    const ProtobufRecord &record);
 
-    const Parts &findParts(const FieldInfo *field, unsigned int count) const;
-    void
-    makePart(const Parts &parts, unsigned int index, const google::protobuf::Message &part) const;
+    void makePart(const FieldInfo *field, const ProtobufRecord &part) const;
 
-    const google::protobuf::Message &message; ///< In the content.
-    const google::protobuf::Reflection &reflection;
+    const ProtobufRecord &record; ///< In the content.
     std::unique_ptr<ProtobufContent> owned; ///< Null in a sub-message.
     ProtobufContent *content; ///< That of the main message.
-    mutable Parts *parts = nullptr; ///< In the arena.
-    mutable const FieldInfo *lastField = nullptr;
-    mutable Values lastValues; ///< Of lastField.
 };
 
 } // namespace corvane

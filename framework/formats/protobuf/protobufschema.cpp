@@ -83,7 +83,6 @@ ProtobufSchema::ProtobufSchema()
     , withoutText(&descriptorSets, &wellKnown)
     , database(&tree, &withoutText)
     , pool(&database, database.GetValidationErrorCollector())
-    , factory(&pool)
 {
 }
 
@@ -199,9 +198,28 @@ std::vector<const Descriptor *> ProtobufSchema::getOuterMessages() const
     return outer;
 }
 
-const google::protobuf::Message *ProtobufSchema::getPrototype(const Descriptor *descriptor) const
+const ProtobufLayout &ProtobufSchema::getLayout(const Descriptor *type) const
 {
-    return factory.GetPrototype(descriptor);
+    const std::lock_guard lock(layoutsMutex);
+    // Types can hold each other in chains and circles of any length.
+    std::vector<ProtobufLayout *> unfinished;
+    const auto layoutOf = [&](const Descriptor *wanted) {
+        std::unique_ptr<ProtobufLayout> &layout = layouts[wanted];
+        if (layout == nullptr) {
+            layout = std::make_unique<ProtobufLayout>(wanted);
+            unfinished.push_back(layout.get());
+        }
+        return layout.get();
+    };
+    const ProtobufLayout *result = layoutOf(type);
+    while (!unfinished.empty()) {
+        ProtobufLayout *layout = unfinished.back();
+        unfinished.pop_back();
+        for (ProtobufField &field : layout->getFields())
+            if (const Descriptor *inner = field.descriptor->message_type())
+                field.inner = layoutOf(inner);
+    }
+    return *result;
 }
 
 } // namespace corvane

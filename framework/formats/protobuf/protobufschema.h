@@ -2,6 +2,7 @@
 
 #include "corvaneframework_export.h"
 #include "loaderror.h"
+#include "protobuflayout.h"
 #include "protobufsourcetree.h"
 
 #include <QByteArray>
@@ -11,9 +12,10 @@
 
 #include <google/protobuf/descriptor.h>
 #include <google/protobuf/descriptor_database.h>
-#include <google/protobuf/dynamic_message.h>
 
+#include <map>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 namespace corvane {
@@ -57,9 +59,8 @@ public:
     const google::protobuf::Descriptor *findMessage(const QString &fullName) const;
     /** The messages of the files at top level that no other message of them has as a field. */
     std::vector<const google::protobuf::Descriptor *> getOuterMessages() const;
-    /** An empty message of that type, to make others from. */
-    const google::protobuf::Message *
-    getPrototype(const google::protobuf::Descriptor *descriptor) const;
+    /** That of a message type of this schema. It may be asked for by several threads. */
+    const ProtobufLayout &getLayout(const google::protobuf::Descriptor *type) const;
 
 private:
     class ErrorCollector;
@@ -77,8 +78,9 @@ private:
     google::protobuf::MergedDescriptorDatabase withoutText;
     google::protobuf::compiler::SourceTreeDescriptorDatabase database;
     google::protobuf::DescriptorPool pool;
-    mutable google::protobuf::DynamicMessageFactory factory;
     std::vector<const google::protobuf::FileDescriptor *> files;
+    mutable std::mutex layoutsMutex;
+    mutable std::map<const google::protobuf::Descriptor *, std::unique_ptr<ProtobufLayout>> layouts;
 };
 
 } // namespace corvane

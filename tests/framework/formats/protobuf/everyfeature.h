@@ -91,4 +91,19 @@ message Modern {
 )")}};
 }
 
+/** A message with a value in every kind of field of test.Every, in the text format. */
+inline QString everyFeatureMessage()
+{
+    return QStringLiteral(
+        "id: 1 int64_field: -5 float_field: 1.5 double_field: 2.5 string_field: 'äb' "
+        "bytes_field: 'xyz' color: GREEN packed: [1, -2, 300] doubles: 1.25 strings: 'p' "
+        "strings: 'q' colors: [RED, DARK] bools: [true, false] parts { value: 3 label: 'l' } "
+        "parts {} text: 'case' counts { key: 'k' value: 1 } counts { key: 'j' value: 2 } "
+        "parts_by_number { key: 1 value { value: 9 } } Pair { left: 1 } Item { name: 'n' } "
+        "inner { id: 2 modern { plain: 1 text: 'ö' states: [ON, OFF] "
+        "by_name { key: 'm' value: ON } } } "
+        "any { type_url: 't/test.Every' value: '\\010\\001' } time { seconds: 3 } "
+        "[test.extra]: 4 [test.more] { value: 5 }");
+}
+
 } // namespace corvane::test

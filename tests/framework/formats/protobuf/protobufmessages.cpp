@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QtEndian>
 
+#include <google/protobuf/dynamic_message.h>
 #include <google/protobuf/text_format.h>
 
 #include <algorithm>
@@ -50,8 +51,9 @@ const MessageInfo *ProtobufDefinitions::findMessage(const QString &name) const
 
 QByteArray ProtobufDefinitions::encode(const QString &text) const
 {
+    google::protobuf::DynamicMessageFactory factory;
     const std::unique_ptr<google::protobuf::Message> message(
-        format->getSchema()->getPrototype(format->getRoot())->New());
+        factory.GetPrototype(format->getRoot())->New());
     if (!google::protobuf::TextFormat::ParseFromString(text.toStdString(), message.get()))
         qFatal("no message: %s", qPrintable(text));
     return QByteArray::fromStdString(message->SerializeAsString());
@@ -59,8 +61,9 @@ QByteArray ProtobufDefinitions::encode(const QString &text) const
 
 DecodedProtobuf::DecodedProtobuf(const ProtobufFormat &format, const QByteArray &bytes)
 {
-    auto content = ProtobufContent::parse(format.getSchema(), format.getRoot(), bytes);
-    if (content == nullptr)
+    auto content
+        = std::make_unique<ProtobufContent>(format.getSchema(), *format.getLayout(), bytes);
+    if (content->getDamage() != ProtobufContent::Damage::None)
         return;
     const auto &root = content->getRoot();
     message = ProtobufMessage::create(format.getRootInfo(), std::move(content), root,

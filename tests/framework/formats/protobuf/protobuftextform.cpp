@@ -32,7 +32,7 @@ QList<const ProtobufFieldInfo *> fieldsByNumber(const MessageInfo *info)
         if (const auto *transmitted = dynamic_cast<const ProtobufFieldInfo *>(field))
             fields.append(transmitted);
     std::sort(fields.begin(), fields.end(), [](const auto *left, const auto *right) {
-        return left->getDescriptor()->number() < right->getDescriptor()->number();
+        return left->getField().descriptor->number() < right->getField().descriptor->number();
     });
     return fields;
 }
@@ -46,7 +46,7 @@ QString quotedBytes(const QByteArray &bytes)
 QString valueText(const ProtobufFieldInfo *field, const Message *message, unsigned int index)
 {
     const QString text = field->getValueText(message, index, true);
-    switch (field->getDescriptor()->type()) {
+    switch (field->getField().descriptor->type()) {
     case FieldDescriptor::TYPE_STRING:
         return quotedBytes(text.toUtf8());
     case FieldDescriptor::TYPE_BYTES:
@@ -64,7 +64,7 @@ QString valueText(const ProtobufFieldInfo *field, const Message *message, unsign
 /** Whether protoc leaves the field out: it has no presence and its value is the default. */
 bool isLeftOut(const ProtobufFieldInfo *field, const Message *message)
 {
-    const FieldDescriptor *descriptor = field->getDescriptor();
+    const FieldDescriptor *descriptor = field->getField().descriptor;
     if (descriptor->is_repeated() || descriptor->has_presence()
         || descriptor->containing_type()->options().map_entry())
         return !field->isPresent(message);
@@ -76,7 +76,7 @@ bool isLeftOut(const ProtobufFieldInfo *field, const Message *message)
 
 QString nameOf(const ProtobufFieldInfo *field)
 {
-    const FieldDescriptor *descriptor = field->getDescriptor();
+    const FieldDescriptor *descriptor = field->getField().descriptor;
     if (descriptor->is_extension())
         return QStringLiteral("[%1]").arg(QString::fromStdString(descriptor->full_name()));
     return QString::fromStdString(descriptor->type() == FieldDescriptor::TYPE_GROUP

@@ -293,28 +293,10 @@ void tst_ProtobufDecoder::largeMessage_withALengthBeyondItsEnd_isNone()
                                           "message of type A."));
 }
 
-namespace {
-
-/** A message with a value in every kind of field. */
-QByteArray richMessage(const ProtobufDefinitions &definitions)
-{
-    return definitions.encode(QStringLiteral(
-        "id: 1 int64_field: -5 float_field: 1.5 double_field: 2.5 string_field: 'äb' "
-        "bytes_field: 'xyz' color: GREEN packed: [1, -2, 300] strings: 'p' strings: 'q' "
-        "colors: [RED, DARK] parts { value: 3 label: 'l' } parts {} text: 'case' "
-        "counts { key: 'k' value: 1 } counts { key: 'j' value: 2 } "
-        "parts_by_number { key: 1 value { value: 9 } } Pair { left: 1 } Item { name: 'n' } "
-        "inner { id: 2 modern { plain: 1 states: [ON, OFF] by_name { key: 'm' value: ON } } } "
-        "any { type_url: 't/test.Every' value: '\\010\\001' } time { seconds: 3 } "
-        "[test.extra]: 4 [test.more] { value: 5 }"));
-}
-
-} // namespace
-
 void tst_ProtobufDecoder::everyTruncation_isHandled()
 {
     ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
-    const QByteArray rich = richMessage(definitions);
+    const QByteArray rich = definitions.encode(everyFeatureMessage());
     const QByteArray good = framedVarint(definitions.encode(QStringLiteral("id: 9")));
     for (qsizetype size = 0; size < rich.size(); ++size) {
         ProtobufRun run(definitions.getFormat());
@@ -334,7 +316,7 @@ void tst_ProtobufDecoder::everyTruncation_isHandled()
 void tst_ProtobufDecoder::everyFlippedBit_isHandled()
 {
     ProtobufDefinitions definitions(everyFeature(), QStringLiteral("test.Every"));
-    const QByteArray framed = framedVarint(richMessage(definitions));
+    const QByteArray framed = framedVarint(definitions.encode(everyFeatureMessage()));
     for (qsizetype bit = 0; bit < framed.size() * 8; ++bit) {
         QByteArray flipped = framed;
         flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ (1 << (bit % 8)));
@@ -354,7 +336,8 @@ void tst_ProtobufDecoder::messages_outliveTheFormat()
         = std::make_unique<ProtobufDefinitions>(everyFeature(), QStringLiteral("test.Every"));
     const Message *kept = nullptr;
     {
-        const DecodedProtobuf message(definitions->getFormat(), richMessage(*definitions));
+        const DecodedProtobuf message(definitions->getFormat(),
+                                      definitions->encode(everyFeatureMessage()));
         kept = message.get();
         textForm(kept);
         kept->addReference();
