@@ -47,6 +47,7 @@ void SampleRun::insert(size_t place, const Sample &sample)
 
 void SampleRun::truncate(size_t count)
 {
+    samplesBefore = std::max(samplesBefore, samples.size());
     samples.resize(count);
     rebuildBlocks(count);
 }
@@ -66,6 +67,7 @@ void SampleRun::thin()
     size_t kept = 0;
     for (size_t first = 0; first < samples.size(); first += groupSize)
         kept = keepExtremes(first, std::min(first + groupSize, samples.size()), kept);
+    samplesBefore = std::max(samplesBefore, samples.size());
     samples.resize(kept);
     rebuildBlocks(0);
 }

@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <cstddef>
 #include <limits>
 #include <vector>
@@ -43,10 +44,11 @@ public:
 
     size_t size() const { return samples.size(); }
 
-    /** What it takes of memory, with what is not used yet or was before it was thinned. */
+    /** What its samples take of memory, or took before it was thinned or cut. */
     size_t getBytes() const
     {
-        return samples.capacity() * sizeof(Sample) + blocks.capacity() * sizeof(Block);
+        const size_t most = std::max(samplesBefore, samples.size());
+        return most * sizeof(Sample) + most / blockSize * sizeof(Block);
     }
 
     /** \a sample is not before the last. */
@@ -84,6 +86,7 @@ private:
     size_t keepExtremes(size_t first, size_t end, size_t kept);
 
     std::vector<Sample> samples;
+    size_t samplesBefore = 0; ///< The most there were when some were taken away.
     std::vector<Block> blocks; ///< Of each blockSize samples; the last may be of fewer.
 };
 
