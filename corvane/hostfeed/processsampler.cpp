@@ -37,7 +37,7 @@ host::ProcessState getProcessState(char letter)
 
 double getTicksPerSecond()
 {
-    static const double ticks = static_cast<double>(::sysconf(_SC_CLK_TCK));
+    static const auto ticks = static_cast<double>(::sysconf(_SC_CLK_TCK));
     return ticks;
 }
 

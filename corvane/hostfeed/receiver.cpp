@@ -1,6 +1,5 @@
 #include "receiver.h"
 
-#include <limits.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -8,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 
 namespace corvane {
 

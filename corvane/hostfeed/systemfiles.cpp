@@ -16,7 +16,7 @@ namespace corvane {
 
 namespace {
 
-constexpr qsizetype maximumBytes = 4 * 1024 * 1024;
+constexpr qsizetype maximumBytes = 4LL * 1024 * 1024;
 
 struct FolderCloser
 {
@@ -59,7 +59,7 @@ std::optional<QByteArray> SystemFiles::read(const QByteArray &path) const
     const int descriptor = ::open((root + path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0)
         return std::nullopt;
-    const std::optional<QByteArray> text = readAll(descriptor);
+    std::optional<QByteArray> text = readAll(descriptor);
     ::close(descriptor);
     return text;
 }

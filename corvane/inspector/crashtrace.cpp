@@ -23,8 +23,8 @@ namespace corvane {
 
 namespace {
 
-constexpr size_t bufferBytes = 256 * 1024;
-constexpr size_t handlerStackBytes = 64 * 1024;
+constexpr size_t bufferBytes = size_t{256} * 1024;
+constexpr size_t handlerStackBytes = size_t{64} * 1024;
 constexpr int mostLines = 20'000; ///< Of a ring that the crash itself may have broken.
 constexpr int mostFilesKept = 20;
 constexpr std::array fatalSignals{SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};

@@ -38,7 +38,7 @@ public:
 
     QString displayText(const QVariant &value, const QLocale &) const override
     {
-        const QString text = value.toString();
+        QString text = value.toString();
         const auto time = QDateTime::fromString(text, Qt::ISODate);
         if (!time.isValid())
             return text;

@@ -19,7 +19,7 @@ namespace corvane {
 
 namespace {
 
-constexpr qint64 largestFileBytes = 4 * 1024 * 1024;
+constexpr qint64 largestFileBytes = 4LL * 1024 * 1024;
 constexpr qsizetype longestText = 4096;
 constexpr qsizetype mostTexts = 20'000;
 

@@ -6,6 +6,7 @@
 #include <QtGlobal>
 
 #include <array>
+#include <cstddef>
 #include <limits>
 #include <span>
 
@@ -79,7 +80,7 @@ private:
 
     // The latest intervals are the last ones before the middle or the end of this, so that they
     // always stand side by side.
-    std::array<Interval, 2 * history> intervals;
+    std::array<Interval, size_t{2} * history> intervals;
     int filled = 0; ///< Of intervals, from its begin.
     int usable = 0; ///< The latest so many intervals may tell of a rhythm.
     quint64 sinceStart = 0; ///< Intervals since the first message after an interruption.

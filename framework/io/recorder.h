@@ -31,7 +31,7 @@ class CORVANEFRAMEWORK_EXPORT Recorder : public QObject
 
 public:
     /** So many bytes may wait for the disk; a disk that is slower than that ends the recording. */
-    static constexpr qsizetype maximumWaitingBytes = 64 * 1024 * 1024;
+    static constexpr qsizetype maximumWaitingBytes = 64LL * 1024 * 1024;
 
     explicit Recorder(QObject *parent = nullptr);
     /** Stops. */

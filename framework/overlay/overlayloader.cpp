@@ -18,7 +18,7 @@ namespace corvane {
 
 namespace {
 
-constexpr qint64 maximumFileSize = 16 * 1024 * 1024;
+constexpr qint64 maximumFileSize = 16LL * 1024 * 1024;
 
 LoadError errorOfFile(const QString &file, const QString &message)
 {

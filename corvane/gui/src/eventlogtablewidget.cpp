@@ -3,6 +3,8 @@
 #include "memleaktracer.h"
 #include "translations.h"
 
+#include <utility>
+
 namespace {
 
 enum Column {
@@ -16,8 +18,8 @@ template <typename Contents>
 class SharingCell final : public QTableWidgetItem
 {
 public:
-    explicit SharingCell(const Contents &contents)
-        : contents(contents)
+    explicit SharingCell(Contents contents)
+        : contents(std::move(contents))
     {
         setFlags(Qt::ItemIsEnabled);
     }
@@ -72,6 +74,7 @@ void EventLogTableWidget::setEventLog(EventLog *eventLog)
         addEntry(entry);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 void EventLogTableWidget::addEntry(EventLog::Entry entry)
 {
     const int row = rowCount();

@@ -33,7 +33,7 @@ class LeanItem : public QTreeWidgetItem
 public:
     QVariant data(int column, int role) const final
     {
-        const QVariant ownValue = QTreeWidgetItem::data(column, role);
+        QVariant ownValue = QTreeWidgetItem::data(column, role);
         if (ownValue.isValid())
             return ownValue;
         if (role == Qt::DisplayRole || role == Qt::EditRole)
@@ -49,6 +49,12 @@ public:
     }
 
 protected:
+    /** Whether somebody has set a text in place of that of makeText(). */
+    bool hasOwnText(int column) const
+    {
+        return QTreeWidgetItem::data(column, Qt::DisplayRole).isValid();
+    }
+
     /** Nothing where there is none; the same below. */
     virtual QVariant makeText(int column) const = 0;
     virtual QVariant makeToolTip(int column) const = 0;
@@ -127,7 +133,7 @@ public:
         gap = newGap;
         // A text that somebody has set instead stands for the old one.
         for (const int column : {NameColumn, CountColumn, RateColumn})
-            if (QTreeWidgetItem::data(column, Qt::DisplayRole).isValid())
+            if (hasOwnText(column))
                 setData(column, Qt::DisplayRole, QVariant());
         tellChange(NameColumn, RateColumn);
     }

@@ -3,6 +3,8 @@
 #include "memleaktracer.h"
 #include "translations.h"
 
+#include <utility>
+
 PathExpressionComboBox::PathExpressionComboBox(PathExpression *pathExpression,
                                                PathExpression::Parts parts,
                                                PathExpression *optionsSourcePathExpression,
@@ -76,7 +78,7 @@ PathExpression::Parts PathExpressionComboBox::getParts() const
 void PathExpressionComboBox::setAllOptionEnabled(bool enabled, QString text)
 {
     allOptionEnabled = enabled;
-    allOptionText = text;
+    allOptionText = std::move(text);
     updateContents();
 }
 

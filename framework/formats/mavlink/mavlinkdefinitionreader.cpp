@@ -15,8 +15,8 @@ namespace corvane {
 
 namespace {
 
-constexpr qint64 maximumFileSize = 32 * 1024 * 1024;
-constexpr qint64 maximumTotalSize = 64 * 1024 * 1024;
+constexpr qint64 maximumFileSize = 32LL * 1024 * 1024;
+constexpr qint64 maximumTotalSize = 64LL * 1024 * 1024;
 constexpr qsizetype maximumFiles = 256;
 constexpr qsizetype maximumErrors = 100;
 constexpr qsizetype maximumWarnings = 100;

@@ -10,7 +10,7 @@ namespace corvane {
 
 namespace {
 
-constexpr qint64 pieceSize = 1024 * 1024;
+constexpr qint64 pieceSize = 1024LL * 1024;
 constexpr qint64 footerContentSize = 20;
 constexpr qint64 endSize = McapRecordHeader::size + footerContentSize + mcapFileMark.size();
 

@@ -91,7 +91,7 @@ StreamFormat::LoadResult McapFormat::loadFiles(const QStringList &files)
 QString McapFormat::loadSchema(const McapSchema &schema)
 {
     const Key key(schema.name, schema.data);
-    if (types.count(key) != 0)
+    if (types.contains(key))
         return {};
     const auto loaded = ProtobufSchema::parse(schema.data, tr("schema %1").arg(schema.name));
     if (loaded.schema == nullptr)

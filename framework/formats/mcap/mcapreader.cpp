@@ -13,7 +13,7 @@ namespace {
 
 using Kind = McapProblem::Kind;
 
-constexpr qsizetype compactingBytes = 1024 * 1024;
+constexpr qsizetype compactingBytes = 1024LL * 1024;
 constexpr quint64 restOfFile = std::numeric_limits<quint64>::max();
 
 QString tr(const char *text)

@@ -54,9 +54,9 @@ public:
 /** How much a McapReader puts up with. */
 struct McapLimits
 {
-    quint64 recordBytes = 256 * 1024 * 1024; ///< Of a schema, channel, message or stored chunk.
-    quint64 chunkBytes = 256 * 1024 * 1024; ///< Of a chunk without its compression.
-    quint64 schemaBytes = 64 * 1024 * 1024; ///< Of all schemas together.
+    quint64 recordBytes = 256ULL * 1024 * 1024; ///< Of a schema, channel, message or stored chunk.
+    quint64 chunkBytes = 256ULL * 1024 * 1024; ///< Of a chunk without its compression.
+    quint64 schemaBytes = 64ULL * 1024 * 1024; ///< Of all schemas together.
     size_t schemas = 4096;
     size_t channels = 16384;
 };

@@ -38,7 +38,7 @@ public:
 private:
     void addBlock(size_t wanted)
     {
-        constexpr size_t largestBlock = 64 * 1024;
+        constexpr size_t largestBlock = 65536;
         left = std::max(wanted, blockSize);
         blocks.push_back(std::make_unique_for_overwrite<char[]>(left));
         next = blocks.back().get();

@@ -28,7 +28,7 @@ struct FrameHeader;
 class CORVANEFRAMEWORK_EXPORT ProtobufDecoder final : public StreamDecoder
 {
 public:
-    static constexpr quint64 maximumSize = 64 * 1024 * 1024;
+    static constexpr quint64 maximumSize = 64ULL * 1024 * 1024;
 
     /** Neither \a format nor \a reception is owned; both must outlive the decoder. */
     ProtobufDecoder(const ProtobufFormat &format, Reception &reception, ProtobufFraming framing);

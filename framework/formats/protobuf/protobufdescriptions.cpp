@@ -83,7 +83,7 @@ const MessageInfo *ProtobufDescriber::describe(const Descriptor *root)
     const Key key{root, 0, false};
     findCircles(root);
     for (const Descriptor *content : getAnyContents({nullptr, 0, false}))
-        if (order.count(content) == 0)
+        if (!order.contains(content))
             findCircles(content);
     chooseMaximumLevel(key);
     if (countRows(key) > maximumRows)
@@ -116,10 +116,10 @@ void ProtobufDescriber::findCircles(const Descriptor *type)
         const Descriptor *inner = field.descriptor->message_type();
         if (inner == nullptr)
             continue;
-        if (order.count(inner) == 0) {
+        if (!order.contains(inner)) {
             findCircles(inner);
             lowest[type] = std::min(lowest[type], lowest[inner]);
-        } else if (circles.count(inner) == 0) {
+        } else if (!circles.contains(inner)) {
             lowest[type] = std::min(lowest[type], order[inner]);
         }
     }

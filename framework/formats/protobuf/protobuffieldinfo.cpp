@@ -35,7 +35,7 @@ QString cutText(QString text, qsizetype maximum)
 FieldValue bytesValue(const ProtobufText &bytes)
 {
     const qsizetype shown = std::min(bytes.size, ProtobufFieldInfo::maximumBytes);
-    const FieldValue value = FieldValue::fromBytes(QByteArray(bytes.data, shown));
+    FieldValue value = FieldValue::fromBytes(QByteArray(bytes.data, shown));
     if (shown == bytes.size)
         return value;
     return FieldValue::fromText(value.toString(false, -1, FieldValue::DefaultRepresentation, false)

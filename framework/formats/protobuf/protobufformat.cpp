@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvane {
 
@@ -51,10 +52,10 @@ LoadError errorOf(const QString &file, const QString &message)
 
 } // namespace
 
-ProtobufFormat::ProtobufFormat(const QString &rootName, const QStringList &importFolders)
+ProtobufFormat::ProtobufFormat(QString rootName, QStringList importFolders)
     : info(makeFormatData())
-    , rootName(rootName)
-    , importFolders(importFolders)
+    , rootName(std::move(rootName))
+    , importFolders(std::move(importFolders))
 {
     Catalogue::getInstance()->addFormat(&info);
 }

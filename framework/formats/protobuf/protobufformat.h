@@ -32,7 +32,7 @@ public:
      * that is no part of another one. \a importFolders: where imports are looked for, beside the
      * folders of the definition files.
      */
-    explicit ProtobufFormat(const QString &rootName = {}, const QStringList &importFolders = {});
+    explicit ProtobufFormat(QString rootName = {}, QStringList importFolders = {});
     ~ProtobufFormat() override;
 
     /** All files make up one schema, so this works once. With errors nothing is loaded. */

@@ -56,6 +56,7 @@ ProtobufLayout::ProtobufLayout(const Descriptor *type)
     , messageSet(type->options().message_set_wire_format())
 {
     std::vector<const FieldDescriptor *> descriptors;
+    descriptors.reserve(static_cast<size_t>(type->field_count()));
     for (int i = 0; i < type->field_count(); ++i)
         descriptors.push_back(type->field(i));
     if (type->extension_range_count() > 0)

@@ -12,7 +12,7 @@ namespace {
 /** A small message takes one block; a large one does not begin with many small ones. */
 size_t firstBlockFor(qsizetype size)
 {
-    return qBound<size_t>(1024, static_cast<size_t>(size) * 8, 64 * 1024);
+    return std::clamp<size_t>(static_cast<size_t>(size) * 8, 1024, 65536);
 }
 
 } // namespace

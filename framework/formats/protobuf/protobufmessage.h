@@ -20,7 +20,7 @@ class CORVANEFRAMEWORK_EXPORT ProtobufContent
 {
 public:
     /** A message that would take more memory is not parsed. */
-    static constexpr quint64 maximumMemory = 512 * 1024 * 1024;
+    static constexpr quint64 maximumMemory = 512ULL * 1024 * 1024;
 
     enum class Damage {
         None,

@@ -416,6 +416,7 @@ bool ProtobufParser::makeRoom(ProtobufSlot &slot, Element *ProtobufSlot::*list, 
         return true;
     constexpr quint64 fewest = 4;
     const quint64 room = std::max({count, quint64{2} * slot.room, fewest});
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): lists of sub-messages are lists of pointers
     auto *elements = static_cast<Element *>(allocate(room * sizeof(Element)));
     if (elements == nullptr)
         return false;

@@ -15,7 +15,7 @@ using google::protobuf::FileDescriptor;
 
 namespace {
 
-constexpr qint64 maximumSetSize = 64 * 1024 * 1024;
+constexpr qint64 maximumSetSize = 64LL * 1024 * 1024;
 
 void collectUsed(const Descriptor *message, std::set<const Descriptor *> &used)
 {
@@ -193,7 +193,7 @@ std::vector<const Descriptor *> ProtobufSchema::getOuterMessages() const
     std::vector<const Descriptor *> outer;
     for (const FileDescriptor *file : files)
         for (int i = 0; i < file->message_type_count(); ++i)
-            if (used.count(file->message_type(i)) == 0)
+            if (!used.contains(file->message_type(i)))
                 outer.push_back(file->message_type(i));
     return outer;
 }

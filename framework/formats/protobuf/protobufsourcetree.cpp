@@ -11,7 +11,7 @@ namespace corvane {
 
 namespace {
 
-constexpr qint64 maximumFileSize = 16 * 1024 * 1024;
+constexpr qint64 maximumFileSize = 16LL * 1024 * 1024;
 constexpr int maximumNesting = 200;
 
 /** A stream that owns what it reads from. */

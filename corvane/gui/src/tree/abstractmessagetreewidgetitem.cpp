@@ -3,6 +3,8 @@
 #include "corvane.h"
 #include "memleaktracer.h"
 
+#include <algorithm>
+
 AbstractMessageTreeWidgetItem::AbstractMessageTreeWidgetItem(MessageTreeWidget *messageTreeWidget)
     : QTreeWidgetItem(QTreeWidgetItem::Type)
     , messageTreeWidget(messageTreeWidget)
@@ -151,10 +153,9 @@ bool AbstractMessageTreeWidgetItem::mustShowField(const FieldInfo *field)
     if (tree->mustShowFieldsWithRole(field->getRole()))
         return true;
     // A field that would be hidden keeps its row for the sake of its parts.
-    for (const FieldInfo *subField : field->getSubFieldInfos())
-        if (mustShowField(subField))
-            return true;
-    return false;
+    const auto parts = field->getSubFieldInfos();
+    return std::any_of(parts.begin(), parts.end(),
+                       [this](const FieldInfo *part) { return mustShowField(part); });
 }
 
 void AbstractMessageTreeWidgetItem::configureInTreeWidget()

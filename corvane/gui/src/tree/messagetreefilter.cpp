@@ -5,6 +5,8 @@
 #include "message.h"
 #include "messageinfo.h"
 
+#include <algorithm>
+
 MessageTreeFilter::MessageTreeFilter(QObject *parent)
     : QObject(parent)
 {
@@ -47,8 +49,8 @@ bool MessageTreeFilter::isLoadedFor(const MessageInfo *messageInfo)
 {
     if (searchString.isEmpty())
         return false;
-    for (const FieldInfo *field : messageInfo->getFieldInfos())
-        if (field->isSymbolicRepresentation(searchString))
-            return true;
-    return false;
+    const auto fields = messageInfo->getFieldInfos();
+    return std::any_of(fields.begin(), fields.end(), [this](const FieldInfo *field) {
+        return field->isSymbolicRepresentation(searchString);
+    });
 }

@@ -123,7 +123,7 @@ AbstractFieldTreeWidgetItem *MessageTreeWidgetItem::createFieldItem(const FieldI
 
     const int column = tree != nullptr ? tree->getColumnIndex(MessageTreeWidget::Name) : -1;
     if (field->isVirtual() && column >= 0) {
-        QFont font = qvariant_cast<QFont>(row->data(column, Qt::FontRole));
+        auto font = qvariant_cast<QFont>(row->data(column, Qt::FontRole));
         font.setStyle(QFont::StyleItalic);
         row->setData(column, Qt::FontRole, font);
     }

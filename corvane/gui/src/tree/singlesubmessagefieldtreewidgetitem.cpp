@@ -27,7 +27,7 @@ SingleSubMessageFieldTreeWidgetItem::SingleSubMessageFieldTreeWidgetItem(
 {
     MemLeakTracer::getInstance()->doAllocateObject(
         QStringLiteral("SingleSubMessageFieldTreeWidgetItem"));
-    clearValues();
+    SingleSubMessageFieldTreeWidgetItem::clearValues();
     setNameText();
 }
 

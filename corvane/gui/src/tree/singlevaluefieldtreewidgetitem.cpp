@@ -25,6 +25,7 @@ void SingleValueFieldTreeWidgetItem::setIndex(unsigned int index)
         return;
     this->index = index;
     ensureChildItems();
+    // NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.VirtualCall): of this class while it is made
     clearValues();
     setNameText();
 }
