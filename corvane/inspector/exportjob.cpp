@@ -73,7 +73,7 @@ QString ExportJob::openFile()
     if (!path.isEmpty() && options.source->kind == SourceAddress::Kind::File
         && path == QFileInfo(options.source->text).canonicalFilePath())
         return tr("cannot write \"%1\": it is the source").arg(order.file);
-    const QString error = writer.open(order.file);
+    QString error = writer.open(order.file);
     fileIsOpen = error.isEmpty();
     return error;
 }

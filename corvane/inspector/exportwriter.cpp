@@ -51,7 +51,7 @@ QString ExportWriter::finish()
     disconnect(following);
     flushTimer.stop();
     const bool isWritten = !messages || messages->flush();
-    const QString error = isWritten ? QString() : describeError();
+    QString error = isWritten ? QString() : describeError();
     file.close();
     return error;
 }

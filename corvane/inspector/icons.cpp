@@ -7,6 +7,8 @@
 #include <QPalette>
 #include <QSvgRenderer>
 
+#include <utility>
+
 // In no namespace, since the macro declares a global function.
 static void initResources()
 {
@@ -21,8 +23,8 @@ namespace {
 class DrawingEngine : public QIconEngine
 {
 public:
-    explicit DrawingEngine(const QByteArray &drawing)
-        : drawing(drawing)
+    explicit DrawingEngine(QByteArray drawing)
+        : drawing(std::move(drawing))
     {
     }
 

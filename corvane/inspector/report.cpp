@@ -26,7 +26,7 @@ QString tr(const char *text)
 
 QJsonValue number(quint64 count)
 {
-    return QJsonValue(static_cast<qint64>(count));
+    return {static_cast<qint64>(count)};
 }
 
 QJsonValue optionalNumber(const std::optional<quint64> &count)

@@ -49,7 +49,7 @@ bool isProtobuf(const QString &file)
 /** As much of a file as tells its framing. */
 QByteArray headOf(const QString &path)
 {
-    constexpr qint64 enoughBytes = 64 * 1024;
+    constexpr qint64 enoughBytes = 64LL * 1024;
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.read(enoughBytes) : QByteArray();
 }

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLocale>
 
+#include <cmath>
 #include <utility>
 
 namespace corvane {
@@ -68,7 +69,8 @@ void StatusFigures::refresh()
     const quint64 frames = session.getReception().getTotals().frames;
     const auto newFrames = static_cast<double>(frames - std::exchange(framesAtRefresh, frames));
     const double seconds = static_cast<double>(sinceRefresh.restart()) / 1000.0;
-    totals->say(getTotalsText(seconds > 0 ? static_cast<quint64>(newFrames / seconds + 0.5) : 0));
+    totals->say(
+        getTotalsText(seconds > 0 ? static_cast<quint64>(std::llround(newFrames / seconds)) : 0));
     showPause();
     showBacklog();
     showLongestRound();

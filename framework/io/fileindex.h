@@ -32,7 +32,7 @@ public:
 
     struct Limits
     {
-        qint64 distanceBytes = 64 * 1024; ///< Between two places, at least.
+        qint64 distanceBytes = 64LL * 1024; ///< Between two places, at least.
         size_t places = 32'768;
     };
 

@@ -41,7 +41,7 @@ public:
         FileIndex &index; ///< Of the same file.
     };
 
-    static constexpr qint64 runUpBytes = 256 * 1024;
+    static constexpr qint64 runUpBytes = 256LL * 1024;
     static constexpr double slowest = 0.1;
     static constexpr double fastest = 100.0;
 

@@ -107,7 +107,7 @@ QString FieldPlace::getName() const
     QString name = type->getName();
     for (const Step &step : steps) {
         QStringList names;
-        for (auto field = step.field; field != nullptr; field = field->getParentFieldInfo())
+        for (const auto *field = step.field; field != nullptr; field = field->getParentFieldInfo())
             names.prepend(field->getName());
         name += dot + names.join(dot) + elementText(step);
     }

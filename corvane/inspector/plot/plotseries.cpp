@@ -64,8 +64,8 @@ QString PlotSeries::getUnit() const
 QPen PlotSeries::getPen() const
 {
     const auto index = static_cast<size_t>(number);
-    return QPen(QColor::fromRgb(colors.at(index % colors.size())), 1.5,
-                penStyles.at(index / colors.size() % penStyles.size()));
+    return {QColor::fromRgb(colors.at(index % colors.size())), 1.5,
+            penStyles.at(index / colors.size() % penStyles.size())};
 }
 
 bool PlotSeries::isHidden() const

@@ -30,7 +30,7 @@ void TimeWindow::pan(double spans)
 
 void TimeWindow::zoom(double factor, qint64 anchorUs)
 {
-    const double before = static_cast<double>(spanUs);
+    const auto before = static_cast<double>(spanUs);
     setSpanUs(qRound64(before * factor));
     if (!following)
         toUs = anchorUs
