@@ -1,15 +1,7 @@
-#include "plotview.h"
+#include "plotscene.h"
 #include "testcase.h"
-#include "testformat.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QImage>
-#include <QLabel>
-#include <QPainter>
-#include <QSignalSpy>
-#include <QSvgRenderer>
-#include <QTemporaryDir>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -42,116 +34,8 @@ private Q_SLOTS:
     void drag_pans();
     void pointer_isTheCursor();
     void paused_standsStill();
-    void png_showsTheLine();
-    void svg_showsTheLine();
-    void csv_isReadBack();
-    void csv_ofOneSecond_isWhatIsShown();
-    void saving_tellsWhatGoesWrong();
     void palette_isFollowed();
 };
-
-namespace {
-
-const char types[] = R"(
-    Position
-      height double optional unit "m"
-      depth  double unit "m"
-      speed  float unit "m/s"
-      mode   uint8 {Manual=0, Auto=2}
-      secret int32 confidential
-)";
-
-constexpr qint64 startUs = 1'700'000'000'000'000;
-constexpr qint64 secondUs = 1'000'000;
-
-class Shown
-{
-public:
-    explicit Shown(const QStringList &fields = {QStringLiteral("height")})
-    {
-        for (const QString &field : fields) {
-            const auto number = static_cast<int>(series.size());
-            series.push_back(std::make_unique<PlotSeries>("Demo.Position." + field, number));
-        }
-        view.resize(600, 300);
-        view.rebuild();
-        view.show();
-        view.setFocus();
-        draw();
-    }
-
-    /** Sends \a text at \a seconds after the start. */
-    void send(const QString &text, double seconds)
-    {
-        const auto message = format.message(text);
-        for (const auto &one : series)
-            one->process(message, startUs + qRound64(seconds * 1e6));
-        view.requestRefresh();
-    }
-
-    void sendRamp(int count, double interval = 1.0)
-    {
-        for (int i = 0; i < count; ++i)
-            send(QStringLiteral("Position{height: %1}").arg(i), i * interval);
-        draw();
-    }
-
-    void draw()
-    {
-        QSignalSpy refreshed(&view, &PlotView::refreshed);
-        view.requestRefresh();
-        refreshed.wait(1000);
-    }
-
-    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(&view, static_cast<Qt::Key>(key), modifiers);
-        draw();
-    }
-
-    /** What is shown, in seconds after the start: "from to". */
-    QString window() const
-    {
-        const auto seconds = [](qint64 timeUs) {
-            return QString::number(static_cast<double>(timeUs - startUs) / 1e6);
-        };
-        return seconds(view.getWindow().getFromUs()) + ' ' + seconds(view.getWindow().getToUs());
-    }
-
-    QString placeholder() const
-    {
-        const auto *label = view.findChild<QLabel *>();
-        return label->isVisible() ? label->text() : QString();
-    }
-
-    TestFormat format{QStringLiteral("Demo"), QLatin1String(types)};
-    PlotSeriesList series;
-    PlotView view{series};
-};
-
-/** The number of points of \a image that have about the colour of the first series. */
-int linePointsIn(const QImage &image)
-{
-    const QColor wanted = PlotSeries("x", 0).getPen().color();
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor found = image.pixelColor(x, y);
-            if (std::abs(found.red() - wanted.red()) + std::abs(found.green() - wanted.green())
-                    + std::abs(found.blue() - wanted.blue())
-                < 30)
-                ++count;
-        }
-    return count;
-}
-
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 void tst_plotview::empty_saysHowToFillIt()
 {
@@ -421,73 +305,6 @@ void tst_plotview::paused_standsStill()
     shown.draw();
     QCOMPARE(shown.window(), "70 100");
     QCOMPARE(shown.series[0]->getStore().size(), 51U);
-}
-
-void tst_plotview::png_showsTheLine()
-{
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("plot.png");
-    Shown shown;
-    shown.sendRamp(20);
-    QCOMPARE(shown.view.saveAs(fileName), "");
-    const QImage image(fileName);
-    QCOMPARE(image.size(), shown.view.size() * 2);
-    QVERIFY(linePointsIn(image) > 300);
-}
-
-void tst_plotview::svg_showsTheLine()
-{
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("plot.SVG");
-    Shown shown;
-    shown.sendRamp(20);
-    QCOMPARE(shown.view.saveAs(fileName), "");
-    QVERIFY(contentOf(fileName).contains("Position.height [m]")); // the legend
-    QSvgRenderer renderer(fileName);
-    QVERIFY(renderer.isValid());
-    QImage image(shown.view.size(), QImage::Format_RGB32);
-    QPainter painter(&image);
-    renderer.render(&painter);
-    painter.end();
-    QVERIFY(linePointsIn(image) > 100);
-    QVERIFY(!shown.view.legend->visible());
-}
-
-void tst_plotview::csv_isReadBack()
-{
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("plot.csv");
-    Shown shown({"height", "speed", "secret"});
-    shown.send("Position{height: 0.1, speed: 2, secret: 5}", 0.000001);
-    shown.send("Position{speed: 3}", 1);
-    shown.send("Position{height: -1e20}", 2.5);
-    shown.draw();
-    QCOMPARE(shown.view.saveAs(fileName), "");
-    QCOMPARE(contentOf(fileName),
-             "time,\"Demo.Position.height [m]\",\"Demo.Position.speed [m/s]\"\r\n"
-             "2023-11-14T22:13:20.000001Z,0.1,2\r\n"
-             "2023-11-14T22:13:21.000000Z,,3\r\n"
-             "2023-11-14T22:13:22.500000Z,-1e+20,\r\n");
-}
-
-void tst_plotview::csv_ofOneSecond_isWhatIsShown()
-{
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("plot.csv");
-    Shown shown;
-    shown.view.setSpanUs(secondUs);
-    shown.sendRamp(1001, 0.01);
-    QCOMPARE(shown.view.saveAs(fileName), "");
-    QCOMPARE(contentOf(fileName).count('\n'), 102);
-    QVERIFY(contentOf(fileName).endsWith("22:13:30.000000Z,1000\r\n"));
-}
-
-void tst_plotview::saving_tellsWhatGoesWrong()
-{
-    Shown shown;
-    QVERIFY(shown.view.saveAs("plot.txt").contains(".png, .svg or .csv"));
-    QVERIFY(
-        shown.view.saveAs("/nowhere/plot.csv").startsWith("Cannot write \"/nowhere/plot.csv\""));
 }
 
 void tst_plotview::palette_isFollowed()
