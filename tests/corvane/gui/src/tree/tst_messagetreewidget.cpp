@@ -1,23 +1,38 @@
 #include "echotranslator.h"
 #include "memleaktracer.h"
-#include "messagetreewidget.h"
-#include "messagetreewidgetitem.h"
+#include "messagetreescene.h"
 #include "metaobjects.h"
 #include "singlevaluefieldtreewidgetitem.h"
 #include "testcase.h"
-#include "testformat.h"
 #include "testsource.h"
 #include "treeprinter.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QHeaderView>
-#include <QMessageBox>
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QTimer>
 
 using namespace corvane::test;
+
+namespace {
+
+/** Counts how often it was configured. */
+class CountingRow : public SingleValueFieldTreeWidgetItem
+{
+public:
+    explicit CountingRow(MessageTreeWidget *tree)
+        : AbstractMessageTreeWidgetItem(tree)
+        , SingleValueFieldTreeWidgetItem(tree, 0)
+    {
+    }
+
+    void configureInTreeWidget() override { ++configured; }
+
+    void processMessage(const Message *message) override { received.append(message); }
+
+    int configured = 0;
+    QList<const Message *> received;
+};
+
+} // namespace
 
 class TestMessageTreeWidget : public TestCase
 {
@@ -45,100 +60,12 @@ private Q_SLOTS:
     void mustInitiallyBeExpanded_defaults();
     void expansion_isRememberedForTheProcess();
     void expansion_ofOtherItems_isIgnored();
-    void settings_roundTrip();
-    void settings_empty_widenTheFirstColumn();
-    void settings_duplicates_areAnnounced();
-    void settings_columnsOfOtherKinds_readAsNone();
-    void settings_refusedHeader_keepsTheWidths();
-    void expansionState_roundTrip();
-    void expansionState_ofSubMessageFields_roundTrip();
-    void expansionState_collapsedIsNotStored();
-    void expansionState_ambiguousOrUnknown_isDropped();
-    void expansionState_loadingNeverCollapses();
     void accounting();
 };
 
-namespace {
-
-const char types[] = R"(
-    Position
-      best  Satellite
-      list  int32[]
-    Satellite part
-      signals uint8[]
-    Attitude
-      roll float[]
-)";
-
-using Columns = QList<MessageTreeWidget::ColumnType>;
-const Columns defaultColumns{MessageTreeWidget::Name, MessageTreeWidget::Type,
-                             MessageTreeWidget::Value};
-
-MessageTreeWidgetItem *
-addRow(MessageTreeWidget &tree, const TestFormat &format, const QString &type)
-{
-    auto *row = new MessageTreeWidgetItem(&tree, format.type(type));
-    tree.addTopLevelItem(row);
-    row->configureInTreeWidget();
-    return row;
-}
-
-/** Answers message boxes while it lives and keeps what they said. */
-class BoxReader : public QObject
-{
-public:
-    BoxReader()
-    {
-        connect(&timer, &QTimer::timeout, this, [this] {
-            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-                boxes += box->windowTitle() + ": " + box->text();
-                standardButtons = box->standardButtons();
-                icon = box->icon();
-                box->accept();
-            }
-        });
-        timer.start(1);
-    }
-
-    QStringList boxes;
-    QMessageBox::StandardButtons standardButtons;
-    QMessageBox::Icon icon = QMessageBox::NoIcon;
-
-private:
-    QTimer timer;
-};
-
-/** Counts how often it was configured. */
-class CountingRow : public SingleValueFieldTreeWidgetItem
-{
-public:
-    explicit CountingRow(MessageTreeWidget *tree)
-        : AbstractMessageTreeWidgetItem(tree)
-        , SingleValueFieldTreeWidgetItem(tree, 0)
-    {
-    }
-
-    void configureInTreeWidget() override { ++configured; }
-
-    void processMessage(const Message *message) override { received.append(message); }
-
-    int configured = 0;
-    QList<const Message *> received;
-};
-
-class SettingsFile
-{
-public:
-    QTemporaryDir folder;
-    QSettings settings{folder.filePath(QStringLiteral("s.ini")), QSettings::IniFormat};
-};
-
-} // namespace
-
 void TestMessageTreeWidget::cleanup()
 {
-    MessageTreeWidget::sMessageInfoExpandedCollapsedMap.clear();
-    MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
+    forgetExpansion();
     TestCase::cleanup();
 }
 
@@ -460,151 +387,6 @@ void TestMessageTreeWidget::expansion_ofOtherItems_isIgnored()
     untyped->setExpanded(true);
     QVERIFY(MessageTreeWidget::sMessageInfoExpandedCollapsedMap.isEmpty());
     QVERIFY(MessageTreeWidget::sFieldInfoExpandedCollapsedMap.isEmpty());
-}
-
-void TestMessageTreeWidget::settings_roundTrip()
-{
-    SettingsFile file;
-    const Columns columns{MessageTreeWidget::Value, MessageTreeWidget::Custom2,
-                          MessageTreeWidget::Name, MessageTreeWidget::RawValue};
-    {
-        MessageTreeWidget tree;
-        tree.setColumns(columns);
-        tree.setColumnWidth(1, 77);
-        tree.header()->moveSection(0, 2);
-        tree.saveSettings(file.settings);
-    }
-    QCOMPARE(file.settings.value("columns").toList(), (QVariantList{2, 5, 0, 1}));
-    MessageTreeWidget tree;
-    tree.restoreSettings(file.settings);
-    QCOMPARE(tree.getColumns(), columns);
-    QCOMPARE(tree.columnWidth(1), 77);
-    QCOMPARE(tree.header()->visualIndex(0), 2);
-    QVERIFY(tree.getToggleRawValueColumnAction()->isChecked());
-    QVERIFY(!tree.getToggleTypeColumnAction()->isChecked());
-}
-
-void TestMessageTreeWidget::settings_empty_widenTheFirstColumn()
-{
-    SettingsFile file;
-    MessageTreeWidget tree;
-    tree.restoreSettings(file.settings);
-    QCOMPARE(tree.getColumns(), defaultColumns);
-    QCOMPARE(tree.columnWidth(0), 150);
-}
-
-void TestMessageTreeWidget::settings_duplicates_areAnnounced()
-{
-    SettingsFile file;
-    file.settings.setValue("columns", QVariantList{0, 1, 1});
-    MessageTreeWidget tree;
-    const BoxReader reader;
-    tree.restoreSettings(file.settings);
-    QCOMPARE(reader.boxes.size(), 1);
-    QCOMPARE(tree.getColumns(), (Columns{MessageTreeWidget::Name, MessageTreeWidget::RawValue}));
-}
-
-void TestMessageTreeWidget::settings_columnsOfOtherKinds_readAsNone()
-{
-    SettingsFile file;
-    MessageTreeWidget tree;
-    file.settings.setValue("columns", "012");
-    tree.restoreSettings(file.settings);
-    QVERIFY(tree.getColumns().isEmpty());
-    file.settings.setValue("columns", QStringList{"2", "0"});
-    tree.restoreSettings(file.settings);
-    QCOMPARE(tree.getColumns(), (Columns{MessageTreeWidget::Value, MessageTreeWidget::Name}));
-}
-
-void TestMessageTreeWidget::settings_refusedHeader_keepsTheWidths()
-{
-    SettingsFile file;
-    file.settings.setValue("headerstate", QByteArray("no header state"));
-    MessageTreeWidget tree;
-    tree.setColumnWidth(0, 91);
-    tree.restoreSettings(file.settings);
-    QCOMPARE(tree.columnWidth(0), 91);
-}
-
-void TestMessageTreeWidget::expansionState_roundTrip()
-{
-    const TestFormat format("Demo", types);
-    SettingsFile file;
-    MessageTreeWidget tree;
-    auto *row = addRow(tree, format, "Position");
-    row->child(1)->setExpanded(true);
-    row->setExpanded(false);
-    row->setExpanded(true);
-    tree.saveExpansionState(file.settings);
-    // Rows that the tree itself expanded are remembered as well.
-    QStringList messages = file.settings.value("expandedMessages").toStringList();
-    messages.sort();
-    QCOMPARE(messages, QStringList({"Demo.Position", "Demo.Satellite"}));
-    QCOMPARE(file.settings.value("expandedFields").toStringList(),
-             QStringList("Demo.Position.list"));
-    MessageTreeWidget::sMessageInfoExpandedCollapsedMap.clear();
-    MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
-    tree.loadExpansionState(file.settings);
-    QCOMPARE(MessageTreeWidget::sFieldInfoExpandedCollapsedMap.value(format.field("Position.list")),
-             true);
-    QCOMPARE(MessageTreeWidget::sMessageInfoExpandedCollapsedMap.value(format.type("Position")),
-             true);
-}
-
-void TestMessageTreeWidget::expansionState_ofSubMessageFields_roundTrip()
-{
-    const TestFormat format("Demo", types);
-    SettingsFile file;
-    MessageTreeWidget tree;
-    auto *row = addRow(tree, format, "Position");
-    row->child(0)->child(0)->setExpanded(true);
-    tree.saveExpansionState(file.settings);
-    MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
-    tree.loadExpansionState(file.settings);
-    QVERIFY(
-        MessageTreeWidget::sFieldInfoExpandedCollapsedMap.value(format.field("Satellite.signals")));
-}
-
-void TestMessageTreeWidget::expansionState_collapsedIsNotStored()
-{
-    const TestFormat format("Demo", types);
-    SettingsFile file;
-    MessageTreeWidget tree;
-    auto *row = addRow(tree, format, "Attitude");
-    row->child(0)->setExpanded(true);
-    row->child(0)->setExpanded(false);
-    row->setExpanded(false);
-    tree.saveExpansionState(file.settings);
-    QVERIFY(file.settings.value("expandedMessages").toStringList().isEmpty());
-    QVERIFY(file.settings.value("expandedFields").toStringList().isEmpty());
-}
-
-void TestMessageTreeWidget::expansionState_ambiguousOrUnknown_isDropped()
-{
-    const TestFormat format("Demo", types);
-    SettingsFile file;
-    file.settings.setValue("expandedMessages", QStringList{"Demo.*", "Demo.Gone", ""});
-    file.settings.setValue("expandedFields",
-                           QStringList{"Demo.Position.*", "Demo.Position.gone", "Demo.*.roll"});
-    MessageTreeWidget tree;
-    tree.loadExpansionState(file.settings);
-    QVERIFY(MessageTreeWidget::sMessageInfoExpandedCollapsedMap.isEmpty());
-    QCOMPARE(MessageTreeWidget::sFieldInfoExpandedCollapsedMap.keys(),
-             QList<const FieldInfo *>{format.field("Attitude.roll")});
-}
-
-void TestMessageTreeWidget::expansionState_loadingNeverCollapses()
-{
-    const TestFormat format("Demo", types);
-    SettingsFile file;
-    MessageTreeWidget::sMessageInfoExpandedCollapsedMap[format.type("Attitude")] = false;
-    MessageTreeWidget::sFieldInfoExpandedCollapsedMap[format.field("Attitude.roll")] = true;
-    MessageTreeWidget tree;
-    tree.loadExpansionState(file.settings);
-    QCOMPARE(
-        MessageTreeWidget::sMessageInfoExpandedCollapsedMap.value(format.type("Attitude"), true),
-        false);
-    QVERIFY(MessageTreeWidget::sFieldInfoExpandedCollapsedMap.value(format.field("Attitude.roll")));
 }
 
 void TestMessageTreeWidget::accounting()
