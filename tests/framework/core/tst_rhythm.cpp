@@ -1,8 +1,5 @@
-#include "intervalstatistics.h"
-#include "rhythm.h"
+#include "rhythmstream.h"
 #include "testcase.h"
-
-#include <QRandomGenerator>
 
 #include <algorithm>
 #include <array>
@@ -10,70 +7,7 @@
 #include <limits>
 
 using namespace corvane::test;
-using corvane::IntervalStatistics;
 using corvane::Rhythm;
-
-namespace {
-
-constexpr qint64 ms = 1000;
-constexpr qint64 second = 1000 * ms;
-constexpr qint64 beginning = 1'700'000'000 * second;
-
-/** One sender's stream, and what was found in it. */
-struct Stream
-{
-    void send(qint64 timeUs)
-    {
-        ++sent;
-        rhythm.addMessage(timeUs, statistics);
-    }
-
-    /** \a count messages every \a period, the next one that far behind the latest. */
-    void sendRegularly(int count, qint64 period)
-    {
-        for (int i = 0; i < count; ++i)
-            send(rhythm.getLastTimeUs() == Rhythm::noTime ? beginning
-                                                          : rhythm.getLastTimeUs() + period);
-    }
-
-    /** "ms: count" of each class, most frequent first. */
-    QStringList classes() const
-    {
-        QStringList texts;
-        for (const auto &known : statistics.getClasses())
-            texts += QStringLiteral("%1: %2").arg(known.ms).arg(known.count);
-        return texts;
-    }
-
-    /** Whether each message is in one class or in none, and the list of gaps is what is counted. */
-    bool addsUp() const
-    {
-        quint64 sum = statistics.unknownIntervals;
-        for (const auto &known : statistics.getClasses())
-            sum += known.count;
-        quint64 missing = 0;
-        for (const auto &gap : statistics.gaps)
-            missing += gap.missingEpochs;
-        const auto listed = static_cast<quint64>(statistics.gaps.size());
-        const bool gapsAddUp = statistics.gapCount == listed
-                                   ? statistics.missingEpochs == missing
-                                   : statistics.gapCount > 100 && listed > 90;
-        return sum == sent && gapsAddUp;
-    }
-
-    IntervalStatistics statistics;
-    Rhythm rhythm;
-    quint64 sent = 0;
-};
-
-/** Normally distributed, by the polar form of Box and Muller. */
-double gaussian(QRandomGenerator &random)
-{
-    const double radius = std::sqrt(-2.0 * std::log(1.0 - random.generateDouble()));
-    return radius * std::cos(2.0 * M_PI * random.generateDouble());
-}
-
-} // namespace
 
 class TestRhythm : public TestCase
 {
@@ -96,16 +30,6 @@ private Q_SLOTS:
     void changeOfRate_isFollowed_data();
     void changeOfRate_isFollowed();
     void slowDrift_isFollowed();
-    void removedMessages_areFound_data();
-    void removedMessages_areFound();
-    void everySecondRemoved_isHalfTheRate();
-    void removedRuns_areFound();
-    void removedFromJitter_areFound();
-    void lateMessages_areNoGaps();
-    void manyLateMessages_areNoGaps();
-    void silenceAtTheEnd_isNoGap();
-    void otherRateForAWhile_isNoGap();
-    void gap_tellsWhereItIs();
     void equalTimes_areCountedApart();
     void backInTime_isUnknown();
     void backInTimeAgainAndAgain_isNotRegular();
@@ -118,9 +42,6 @@ private Q_SLOTS:
     void interruption_isUnknown();
     void irregular_isFiledUnderRoundValues_data();
     void irregular_isFiledUnderRoundValues();
-    void classes_areLimited();
-    void gaps_areLimitedButCounted();
-    void lateMessage_takesAGapBack();
 };
 
 void TestRhythm::regular_showsAsOneInterval_data()
@@ -326,156 +247,6 @@ void TestRhythm::slowDrift_isFollowed()
     QVERIFY(stream.addsUp());
 }
 
-void TestRhythm::removedMessages_areFound_data()
-{
-    QTest::addColumn<int>("every");
-    for (const int every : {3, 4, 5, 7, 10, 33, 100})
-        QTest::addRow("every %dth", every) << every;
-}
-
-void TestRhythm::removedMessages_areFound()
-{
-    QFETCH(int, every);
-    for (const qint64 period : {10 * ms, 50 * ms, second, 60 * second}) {
-        Stream stream;
-        quint64 removed = 0;
-        QList<quint64> starts;
-        for (int i = 0; i < 1000; ++i) {
-            if (i % every == every - 1) {
-                removed += i < 998 ? 1 : 0; // the rhythm has to go on behind it
-                starts.append(static_cast<quint64>((beginning + (i - 1) * period) / ms));
-            } else {
-                stream.send(beginning + i * period);
-            }
-        }
-        QCOMPARE(stream.statistics.gapCount, removed);
-        QCOMPARE(stream.statistics.missingEpochs, removed);
-        for (qsizetype i = 0; i < stream.statistics.gaps.size(); ++i) {
-            QCOMPARE(stream.statistics.gaps.at(i).start, starts.at(i));
-            QCOMPARE(stream.statistics.gaps.at(i).missingEpochs, 1U);
-            QCOMPARE(stream.statistics.gaps.at(i).interval, period / ms);
-        }
-        QVERIFY(stream.rhythm.isRegular());
-        QVERIFY(stream.addsUp());
-    }
-}
-
-void TestRhythm::everySecondRemoved_isHalfTheRate()
-{
-    Stream stream;
-    for (int i = 0; i < 1000; i += 2)
-        stream.send(beginning + i * 50 * ms);
-    QCOMPARE(stream.classes(), QStringList{"100: 500"});
-    QCOMPARE(stream.statistics.gapCount, 0U);
-}
-
-void TestRhythm::removedRuns_areFound()
-{
-    QRandomGenerator random(5);
-    Stream stream;
-    quint64 gaps = 0;
-    quint64 removed = 0;
-    int epoch = 0;
-    while (epoch < 20'000) {
-        for (int i = 10 + random.bounded(100); i > 0; --i)
-            stream.send(beginning + epoch++ * 20 * ms);
-        const int missing = 1 + random.bounded(50);
-        epoch += missing;
-        removed += static_cast<quint64>(missing);
-        ++gaps;
-    }
-    stream.sendRegularly(1, 20 * ms); // behind the last gap: hides it, since it is not in rhythm
-    QVERIFY(gaps > 200);
-    QCOMPARE(stream.statistics.gapCount, gaps - 1);
-    QVERIFY(stream.statistics.missingEpochs < removed);
-    QVERIFY(stream.statistics.missingEpochs >= removed - 50);
-}
-
-void TestRhythm::removedFromJitter_areFound()
-{
-    QRandomGenerator random(7);
-    for (const int every : {10, 25, 100}) {
-        Stream stream;
-        quint64 removed = 0;
-        for (int i = 0; i < 5000; ++i) {
-            if (i % every == every - 1 && i < 4999) {
-                ++removed;
-                continue;
-            }
-            const double late = std::clamp(gaussian(random), -3.0, 3.0) * 0.06 * 50 * ms;
-            stream.send(beginning + i * 50 * ms + std::llround(late));
-        }
-        QCOMPARE(stream.statistics.gapCount, removed);
-        QCOMPARE(stream.statistics.missingEpochs, removed);
-    }
-}
-
-void TestRhythm::lateMessages_areNoGaps()
-{
-    // A network that holds a few messages back and then lets them through at once.
-    Stream stream;
-    qint64 latest = 0;
-    for (int i = 0; i < 2000; ++i) {
-        const qint64 due = beginning + i * 50 * ms + (i % 7) * ms;
-        const int heldUntil = i % 97 < 4 ? i - i % 97 + 4 : i;
-        latest = std::max(latest, std::max(due, beginning + heldUntil * 50 * ms));
-        stream.send(latest);
-    }
-    QCOMPARE(stream.statistics.gapCount, 0U);
-    QCOMPARE(stream.statistics.gaps.size(), 0);
-    QVERIFY(stream.rhythm.isRegular());
-    QVERIFY(stream.addsUp());
-}
-
-void TestRhythm::manyLateMessages_areNoGaps()
-{
-    Stream stream;
-    qint64 latest = 0;
-    for (int i = 0; i < 2000; ++i) {
-        const int heldUntil = i % 200 >= 100 && i % 200 < 120 ? i - i % 200 + 120 : i;
-        latest = std::max(latest + 30, beginning + heldUntil * 50 * ms);
-        stream.send(latest);
-        QVERIFY(i < 10 || stream.rhythm.isRegular());
-        QVERIFY(i < 10 || stream.rhythm.getIntervalMs() == 50);
-    }
-    QCOMPARE(stream.statistics.gapCount, 0U);
-    QVERIFY(stream.addsUp());
-}
-
-void TestRhythm::silenceAtTheEnd_isNoGap()
-{
-    Stream stream;
-    stream.sendRegularly(100, 50 * ms);
-    stream.sendRegularly(1, second);
-    QCOMPARE(stream.statistics.gapCount, 0U); // nothing says yet that the rhythm goes on
-    stream.sendRegularly(1, 50 * ms);
-    QCOMPARE(stream.statistics.gapCount, 1U);
-    QCOMPARE(stream.statistics.missingEpochs, 19U);
-}
-
-void TestRhythm::otherRateForAWhile_isNoGap()
-{
-    Stream stream;
-    stream.sendRegularly(100, 50 * ms);
-    stream.sendRegularly(6, 100 * ms);
-    stream.sendRegularly(100, 50 * ms);
-    QCOMPARE(stream.statistics.gapCount, 0U);
-    QVERIFY(stream.rhythm.isRegular());
-}
-
-void TestRhythm::gap_tellsWhereItIs()
-{
-    Stream stream;
-    stream.sendRegularly(50, 50 * ms);
-    const qint64 start = stream.rhythm.getLastTimeUs();
-    stream.sendRegularly(1, 200 * ms);
-    stream.sendRegularly(50, 50 * ms);
-    const MessageStatistics::Gap expected{static_cast<quint64>(start / ms), 3, 50};
-    QCOMPARE(stream.statistics.gaps.size(), 1);
-    QVERIFY(stream.statistics.gaps.constFirst() == expected);
-    QCOMPARE(stream.classes(), (QStringList{"50: 100", "200: 1"}));
-}
-
 void TestRhythm::equalTimes_areCountedApart()
 {
     Stream stream;
@@ -655,58 +426,6 @@ void TestRhythm::irregular_isFiledUnderRoundValues()
     stream.send(beginning + intervalUs);
     QCOMPARE(stream.classes(), QStringList{filed});
     QCOMPARE(stream.statistics.unknownIntervals, 1U);
-}
-
-void TestRhythm::classes_areLimited()
-{
-    IntervalStatistics statistics;
-    for (int i = 0; i < 64; ++i)
-        statistics.add(statistics.getClass(100 + i));
-    QCOMPARE(statistics.getClasses().size(), 64);
-    statistics.add(statistics.getClass(5000)); // there is no room: the nearest one
-    statistics.add(statistics.getClass(7));
-    statistics.add(statistics.getClass(110));
-    const auto classes = statistics.getClasses();
-    QCOMPARE(classes.size(), 64);
-    QList<qint64> twice;
-    for (const auto &known : classes)
-        if (known.count == 2)
-            twice.append(known.ms);
-    QCOMPARE(twice, (QList<qint64>{100, 110, 163}));
-}
-
-void TestRhythm::gaps_areLimitedButCounted()
-{
-    IntervalStatistics statistics;
-    for (quint64 i = 0; i < 1500; ++i)
-        statistics.addGap({i, 2, 10});
-    QCOMPARE(statistics.gaps.size(), 100);
-    QCOMPARE(statistics.gaps.constLast().start, 99U);
-    QCOMPARE(statistics.gapCount, 1500U);
-    QCOMPARE(statistics.missingEpochs, 3000U);
-}
-
-void TestRhythm::lateMessage_takesAGapBack()
-{
-    IntervalStatistics statistics;
-    statistics.addGap({1, 2, 10});
-    statistics.addGap({5, 1, 10});
-    statistics.fillGap({1, 2, 10});
-    QCOMPARE(statistics.gapCount, 2U);
-    QCOMPARE(statistics.missingEpochs, 2U);
-    QCOMPARE(statistics.gaps.constFirst().missingEpochs, 1U);
-    statistics.fillGap({5, 1, 10});
-    QCOMPARE(statistics.gapCount, 1U);
-    QCOMPARE(statistics.gaps.size(), 1);
-    QCOMPARE(statistics.gaps.constFirst().start, 1U);
-    statistics.fillGap({9, 0, 10}); // none at all
-    QCOMPARE(statistics.gapCount, 1U);
-    QCOMPARE(statistics.missingEpochs, 1U);
-    statistics.addGap({20, 100, 10});
-    statistics.removeGap({20, 100, 10});
-    QCOMPARE(statistics.gapCount, 1U);
-    QCOMPARE(statistics.missingEpochs, 1U);
-    QCOMPARE(statistics.gaps.size(), 1);
 }
 
 CORVANE_TEST_MAIN(TestRhythm)
