@@ -1,10 +1,8 @@
 #include "csvparser.h"
-#include "testcase.h"
+#include "inspectorprogram.h"
 
 #include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -14,7 +12,6 @@
 
 using namespace corvane::test;
 
-/** Runs the program as a person or a script does. */
 class tst_exportcommand : public TestCase
 {
     Q_OBJECT
@@ -43,31 +40,10 @@ private Q_SLOTS:
 
 namespace {
 
-struct Outcome
+/** Nothing where the output is no CSV. */
+QList<QStringList> rowsOf(const Outcome &outcome)
 {
-    int exitCode = -1;
-    QByteArray output;
-    QByteArray errors;
-
-    QList<QJsonObject> objects() const
-    {
-        QList<QJsonObject> result;
-        for (const QByteArray &line : output.split('\n'))
-            if (!line.isEmpty())
-                result.append(QJsonDocument::fromJson(line).object());
-        return result;
-    }
-
-    /** Without rows where the output is no CSV. */
-    QList<QStringList> rows() const
-    {
-        return CsvParser::parse(output).value_or(QList<QStringList>());
-    }
-};
-
-QString example(const QString &name)
-{
-    return sourceFile(QStringLiteral("examples/recording/") + name);
+    return CsvParser::parse(outcome.output).value_or(QList<QStringList>());
 }
 
 QString recording()
@@ -89,22 +65,9 @@ QByteArray firstLines(const QByteArray &text, int count)
     return text.first(end);
 }
 
-Outcome run(const QStringList &arguments, const QByteArray &input = {})
-{
-    QProcess process;
-    process.start(QStringLiteral(CORVANE_INSPECTOR), arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    if (!process.waitForFinished(60'000) || process.exitStatus() != QProcess::NormalExit)
-        return {-1, {}, "crashed or hung: " + process.readAllStandardError()};
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
 QStringList exportArguments(const QString &form, const QStringList &further)
 {
-    return QStringList{QStringLiteral("--definitions"), example(QStringLiteral("rover.xml")),
-                       QStringLiteral("--export"), form}
-           + further;
+    return onExample(QStringList{QStringLiteral("--export"), form} + further);
 }
 
 Outcome exportAs(const QString &form, const QStringList &further, const QByteArray &input = {})
@@ -144,7 +107,7 @@ void tst_exportcommand::csv_ofAll_hasTheTypesThatOccur()
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(contentOf(recording()).left(36 + 8 + 12 + 24));
     file.close();
-    const auto rows = exportAs(QStringLiteral("csv"), {part}).rows();
+    const auto rows = rowsOf(exportAs(QStringLiteral("csv"), {part}));
     QCOMPARE(rows.size(), 2);
     QCOMPARE(rows.at(0), (QStringList{"time", "type", "sender", "sequence", "heading", "vx", "vy",
                                       "turn_rate"}));
@@ -154,7 +117,7 @@ void tst_exportcommand::csv_ofAStream_hasAllTypes()
 {
     const Outcome outcome
         = exportAs(QStringLiteral("csv"), {QStringLiteral("-")}, contentOf(recording()));
-    const auto rows = outcome.rows();
+    const auto rows = rowsOf(outcome);
     QCOMPARE(rows.size(), 1738);
     QCOMPARE(rows.at(0).size(), 4 + 21);
     QVERIFY(rows.at(0).contains(QStringLiteral("TEXT.text")));
@@ -223,9 +186,8 @@ void tst_exportcommand::selection_isWrittenToTheFile()
 
 void tst_exportcommand::raw_givesNumbers()
 {
-    const auto rows
-        = exportAs(QStringLiteral("csv"), {"--raw", "--select", "MAVLink.HEARTBEAT", recording()})
-              .rows();
+    const auto rows = rowsOf(
+        exportAs(QStringLiteral("csv"), {"--raw", "--select", "MAVLink.HEARTBEAT", recording()}));
     QCOMPARE(rows.at(1).mid(4), (QStringList{"0", "0", "15"}));
 }
 
@@ -311,7 +273,7 @@ void tst_exportcommand::nothingSelectedCame_isSaid()
     const Outcome none = exportAs(QStringLiteral("csv"), {"--select", "MAVLink.POSITION", "-"},
                                   contentOf(recording()).left(36));
     QCOMPARE(none.exitCode, 0);
-    QCOMPARE(none.rows().size(), 1);
+    QCOMPARE(rowsOf(none).size(), 1);
     const Outcome unselected = exportAs(QStringLiteral("jsonl"), {"--select", "MAVLink.TEXT", "-"},
                                         contentOf(recording()).left(36 + 8 + 12 + 24));
     QCOMPARE(unselected.exitCode, 0);
