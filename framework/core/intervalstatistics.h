@@ -30,7 +30,7 @@ public:
     /** So many round intervals are there for those that belong to no regular stretch. */
     static constexpr size_t roundValues = 27;
     /** So many gaps are listed; all are counted. */
-    static constexpr qsizetype maximumGaps = 100;
+    static constexpr qsizetype maximumGaps = 64;
 
     IntervalStatistics();
 

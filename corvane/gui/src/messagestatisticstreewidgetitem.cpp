@@ -82,19 +82,26 @@ public:
     // The count, which is all that changes, without cells for it.
     void setData(int column, int role, const QVariant &value) override
     {
-        if (column != CountColumn || (role != Qt::DisplayRole && role != Qt::EditRole)) {
+        bool isNumber = false;
+        const quint32 number = value.toUInt(&isNumber);
+        if (!isNumber || column != CountColumn || (role != Qt::DisplayRole && role != Qt::EditRole))
+        {
             LeanItem::setData(column, role, value);
-        } else if (count != value) {
-            count = value;
-            tellChange(CountColumn, CountColumn);
+            return;
         }
+        if (hasOwnText(column))
+            LeanItem::setData(column, Qt::DisplayRole, QVariant());
+        if (count == number)
+            return;
+        count = number;
+        tellChange(CountColumn, CountColumn);
     }
 
 protected:
     QVariant makeText(int column) const override
     {
         if (column == CountColumn)
-            return count;
+            return QString::number(count);
         return column == NameColumn ? getIntervalText() : QVariant();
     }
 
@@ -115,7 +122,7 @@ private:
     }
 
     long long interval; ///< Milliseconds.
-    QVariant count;
+    quint32 count = 0;
 };
 
 class GapItem final : public LeanItem
