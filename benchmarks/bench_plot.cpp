@@ -5,6 +5,7 @@
 #include "descriptions.h"
 #include "fieldtype.h"
 #include "formatinfo.h"
+#include "guibenchmarks.h"
 #include "messageinfo.h"
 #include "messagesource.h"
 #include "plotpanel.h"
@@ -196,10 +197,5 @@ BENCHMARK(picture)->Arg(1)->Arg(30)->Arg(600)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char *argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    filledPlot.reset();
-    return 0;
+    return runGuiBenchmarks(argc, argv, [] { filledPlot.reset(); });
 }

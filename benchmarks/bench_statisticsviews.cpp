@@ -6,6 +6,7 @@
 #include "fakestatistics.h"
 #include "fieldinfo.h"
 #include "formatinfo.h"
+#include "guibenchmarks.h"
 #include "messageinfo.h"
 #include "messagestatisticswidget.h"
 
@@ -97,9 +98,5 @@ BENCHMARK(clearTable)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 int main(int argc, char *argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runGuiBenchmarks(argc, argv);
 }

@@ -5,6 +5,7 @@
 #include "descriptions.h"
 #include "fieldtype.h"
 #include "formatinfo.h"
+#include "guibenchmarks.h"
 #include "messageinfo.h"
 #include "messagetreewidget.h"
 #include "messagetreewidgetitem.h"
@@ -328,9 +329,5 @@ BENCHMARK(thousandScans);
 
 int main(int argc, char *argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runGuiBenchmarks(argc, argv);
 }

@@ -5,6 +5,7 @@
 #include "enumeration.h"
 #include "fieldtype.h"
 #include "formatinfo.h"
+#include "guibenchmarks.h"
 #include "messageinfo.h"
 #include "messagetreefilter.h"
 #include "messagetreewidget.h"
@@ -220,8 +221,13 @@ void compareElements(benchmark::State &state, const QString &search)
         elements.compare();
 }
 
-/** Two texts in turn, up to the finished layout. */
-void changeFilter(benchmark::State &state, const QString &first, const QString &second)
+using TextSetter = std::function<void(ElementTree &elements, const QString &text)>;
+
+/** Two texts in turn, each by \a setText. */
+void alternate(benchmark::State &state,
+               const QString &first,
+               const QString &second,
+               const TextSetter &setText)
 {
     ElementTree &elements = elementTree(state);
     elements.filter.setSearchString(first);
@@ -229,26 +235,29 @@ void changeFilter(benchmark::State &state, const QString &first, const QString &
     bool isFirst = true;
     for (auto _ : state) {
         isFirst = !isFirst;
-        elements.filter.setSearchString(isFirst ? first : second);
-        elements.finishLayout();
+        setText(elements, isFirst ? first : second);
     }
+    elements.filter.setSearchString(first);
+}
+
+/** Up to the finished layout. */
+void changeFilter(benchmark::State &state, const QString &first, const QString &second)
+{
+    alternate(state, first, second, [](ElementTree &elements, const QString &text) {
+        elements.filter.setSearchString(text);
+        elements.finishLayout();
+    });
 }
 
 /** What changeFilter() takes at the least. */
 void compareAndLayOut(benchmark::State &state, const QString &first, const QString &second)
 {
-    ElementTree &elements = elementTree(state);
-    elements.filter.setSearchString(first);
-    elements.finishLayout();
-    bool isFirst = true;
-    for (auto _ : state) {
-        isFirst = !isFirst;
+    alternate(state, first, second, [](ElementTree &elements, const QString &text) {
         const QSignalBlocker blocker(elements.filter);
-        elements.filter.setSearchString(isFirst ? first : second);
+        elements.filter.setSearchString(text);
         elements.compare();
         elements.tree.doItemsLayout();
-    }
-    elements.filter.setSearchString(first); // as the rows are
+    });
 }
 
 BENCHMARK_CAPTURE(updateElements, unfiltered, QString())->ArgsProduct({{10'000}, {0, 1}});
@@ -267,10 +276,5 @@ BENCHMARK_CAPTURE(compareAndLayOut, all, QString("EVEN"), QString("ODD"))
 
 int main(int argc, char *argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    elementTrees.clear();
-    return 0;
+    return runGuiBenchmarks(argc, argv, [] { elementTrees.clear(); });
 }
