@@ -17,7 +17,7 @@
 #include "messageinfo.h"
 #include "messagestatistics.h"
 #include "messagetreepanel.h"
-#include "messagetypemodel.h"
+#include "messagetypeview.h"
 #include "noticearea.h"
 #include "recordcontroller.h"
 #include "rowactions.h"
@@ -35,16 +35,13 @@
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QHeaderView>
 #include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
-#include <QSortFilterProxyModel>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace corvane {
@@ -61,11 +58,6 @@ QString layoutKey()
     return QStringLiteral("window/layout");
 }
 
-QString typesKey()
-{
-    return QStringLiteral("window/types");
-}
-
 } // namespace
 
 MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
@@ -73,8 +65,7 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     , session(session)
     , settings(settings)
     , latest(new LatestMessages(session.getReception(), this))
-    , types(new MessageTypeModel(*session.getReception().getStatistics(), this))
-    , sortedTypes(new QSortFilterProxyModel(this))
+    , types(new MessageTypeView(*session.getReception().getStatistics(), this))
     , notices(new NoticeArea(this))
     , confidential(new ConfidentialSwitch(*notices, this))
     , viewSettings(new ViewSettings(settings, this))
@@ -84,7 +75,6 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
     setDockNestingEnabled(true);
     setIconSize(QSize(20, 20));
     setAcceptDrops(true);
-    createTypeView();
     createActions();
     createMenus();
     createToolBar();
@@ -104,26 +94,6 @@ MainWindow::MainWindow(Session &session, QSettings &settings, QWidget *parent)
 MainWindow::~MainWindow()
 {
     delete confidential;
-}
-
-void MainWindow::createTypeView()
-{
-    sortedTypes->setSourceModel(types);
-    sortedTypes->setSortRole(MessageTypeModel::sortRole);
-    sortedTypes->setSortCaseSensitivity(Qt::CaseInsensitive);
-    typeView = new QTreeView(this);
-    typeView->setObjectName(QStringLiteral("typeView"));
-    typeView->setAccessibleName(tr("Message types"));
-    typeView->setModel(sortedTypes);
-    typeView->setRootIsDecorated(false);
-    typeView->setUniformRowHeights(true);
-    typeView->setMinimumSize(fontMetrics().averageCharWidth() * 28, fontMetrics().height() * 3);
-    typeView->setSortingEnabled(true);
-    typeView->sortByColumn(MessageTypeModel::NameColumn, Qt::AscendingOrder);
-    typeView->header()->setStretchLastSection(false);
-    typeView->header()->setSectionResizeMode(MessageTypeModel::NameColumn, QHeaderView::Stretch);
-    typeView->header()->resizeSection(MessageTypeModel::CountColumn,
-                                      fontMetrics().averageCharWidth() * 14);
 }
 
 void MainWindow::createActions()
@@ -201,7 +171,8 @@ void MainWindow::createPanels()
     column->addWidget(tree, 1);
     setCentralWidget(centre);
     form = new FormPanel(*latest);
-    addPanel(typeView, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
+    types->setAccessibleName(tr("Message types"));
+    addPanel(types, QStringLiteral("types"), tr("Message types"), Qt::LeftDockWidgetArea);
     transport = new TransportBar(this);
     addToolBar(Qt::BottomToolBarArea, transport);
     transport->toggleViewAction()->setToolTip(tr("Show or hide the bar that plays recordings"));
@@ -310,7 +281,7 @@ void MainWindow::restoreLayout()
     restoreGeometry(settings.value(geometryKey()).toByteArray());
     restoreState(settings.value(layoutKey()).toByteArray());
     noticeBar->setVisible(!notices->isEmpty());
-    typeView->header()->restoreState(settings.value(typesKey()).toByteArray());
+    types->restoreSettings(settings);
     restoreCollapsedTypes(settings, *session.getReception().getFormat());
     tree->restoreSettings(settings);
     watch->restoreSettings(settings);
@@ -325,7 +296,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     settings.setValue(geometryKey(), saveGeometry());
     settings.setValue(layoutKey(), saveState());
-    settings.setValue(typesKey(), typeView->header()->saveState());
+    types->saveSettings(settings);
     saveCollapsedTypes(settings, *session.getReception().getFormat());
     tree->saveSettings(settings);
     watch->saveSettings(settings);
@@ -361,14 +332,13 @@ void MainWindow::createStatusBar()
 void MainWindow::connectAll()
 {
     connect(latest, &LatestMessages::typeSeen, this, &MainWindow::chooseFirstType);
-    connect(typeView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &MainWindow::showChosenType);
+    connect(types, &MessageTypeView::chosen, this, &MainWindow::showChosenType);
     connect(&session, &Session::playbackChanged, this, [this] {
         sourceEnd.clear();
         transport->setPlayback(this->session.getPlayback());
     });
     transport->setPlayback(session.getPlayback());
-    connect(tree, &MessageTreePanel::typeChosen, this, &MainWindow::chooseType);
+    connect(tree, &MessageTreePanel::typeChosen, types, &MessageTypeView::choose);
     connect(senders, &SendersPanel::senderChosen, senderChooser, &SenderChooser::choose);
     connect(senderChooser, &SenderChooser::chosen, this, &MainWindow::chooseSender);
     connectRowActions();
@@ -428,7 +398,7 @@ void MainWindow::applyViewSettings()
     transport->setUtc(viewSettings->isUtc());
     QFont viewFont = font();
     viewFont.setPointSizeF(viewFont.pointSizeF() * viewSettings->getZoom() / 100.0);
-    for (QWidget *view : std::initializer_list<QWidget *>{typeView, tree, form, watch, statistics,
+    for (QWidget *view : std::initializer_list<QWidget *>{types, tree, form, watch, statistics,
                                                           senders, events, bytes})
         view->setFont(viewFont);
     if (plot == nullptr)
@@ -445,14 +415,12 @@ void MainWindow::showState(const QString &text)
 void MainWindow::chooseFirstType()
 {
     types->refresh();
-    if (!typeView->currentIndex().isValid())
-        typeView->setCurrentIndex(sortedTypes->index(0, 0));
+    types->chooseFirst();
 }
 
 void MainWindow::showChosenType()
 {
-    const QModelIndex index = sortedTypes->mapToSource(typeView->currentIndex());
-    const MessageStatistics *chosen = types->getStatistics(index);
+    const MessageStatistics *chosen = types->getChosen();
     const MessageInfo *type = chosen != nullptr ? chosen->getMessageInfo() : nullptr;
     if (type != nullptr)
         form->showType(type);
@@ -463,18 +431,9 @@ void MainWindow::showChosenType()
         bytes->setType(type, latest->get(type));
 }
 
-void MainWindow::chooseType(const MessageInfo *type)
-{
-    for (int row = 0; row < sortedTypes->rowCount(); ++row) {
-        const QModelIndex index = sortedTypes->index(row, MessageTypeModel::NameColumn);
-        if (types->getStatistics(sortedTypes->mapToSource(index))->getMessageInfo() == type)
-            typeView->setCurrentIndex(index);
-    }
-}
-
 QString MainWindow::getPlaceholderText() const
 {
-    if (types->rowCount() > 0)
+    if (!types->isEmpty())
         return tr("No definition describes this message. Load the definitions of its dialect with "
                   "--definitions FILE.");
     if (session.getSourceName().isEmpty())
@@ -501,7 +460,7 @@ void MainWindow::setSourceEnd(const QString &text)
 void MainWindow::refreshCounts()
 {
     types->refresh();
-    if (types->rowCount() == 0)
+    if (types->isEmpty())
         showChosenType(); // which tells how many bytes have come
     if (!latest->isPaused()) {
         statistics->refresh();

@@ -5,14 +5,11 @@
 
 #include <optional>
 
-class MessageInfo;
 class QAction;
 class QDockWidget;
 class QMenu;
 class QSettings;
-class QSortFilterProxyModel;
 class QToolBar;
-class QTreeView;
 
 namespace corvane {
 
@@ -26,7 +23,7 @@ class FormPanel;
 class HelpPanel;
 class LatestMessages;
 class MessageTreePanel;
-class MessageTypeModel;
+class MessageTypeView;
 class NoticeArea;
 class RecordController;
 class SendersPanel;
@@ -67,7 +64,6 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    void createTypeView();
     void createPanels();
     void createPlot(QDockWidget *neighbour);
     void createActions();
@@ -85,7 +81,6 @@ private:
     void restoreLayout();
     void chooseFirstType();
     void showChosenType();
-    void chooseType(const MessageInfo *type);
     void setPaused(bool paused);
     void chooseSender(std::optional<quint32> sender);
     void applyViewSettings();
@@ -98,14 +93,12 @@ private:
     Session &session;
     QSettings &settings;
     LatestMessages *latest; ///< Owned as a child.
-    MessageTypeModel *types; ///< Owned as a child.
-    QSortFilterProxyModel *sortedTypes; ///< Owned as a child.
+    MessageTypeView *types; ///< Owned as a child.
     NoticeArea *notices; ///< Owned as a child.
     ConfidentialSwitch *confidential; ///< Owned; gone before the views that it changes.
     ViewSettings *viewSettings; ///< Owned as a child.
     RecordController *record; ///< Owned as a child.
     ExportController *exports; ///< Owned as a child.
-    QTreeView *typeView = nullptr; ///< Owned as a child.
     MessageTreePanel *tree = nullptr; ///< Owned as a child.
     FormPanel *form = nullptr; ///< Owned as a child.
     WatchPanel *watch = nullptr; ///< Owned as a child.
