@@ -1,3 +1,4 @@
+#include "expansion.h"
 #include "inspectortree.h"
 #include "latestmessages.h"
 #include "messageinfo.h"
@@ -86,8 +87,7 @@ public:
 
 void tst_messagetreepanel::cleanup()
 {
-    MessageTreeWidget::sMessageInfoExpandedCollapsedMap.clear();
-    MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
+    forgetExpansion();
     TestCase::cleanup();
 }
 

@@ -1,3 +1,4 @@
+#include "expansion.h"
 #include "findbar.h"
 #include "inspectortree.h"
 #include "latestmessages.h"
@@ -148,8 +149,7 @@ public:
 
 void tst_findbar::cleanup()
 {
-    MessageTreeWidget::sMessageInfoExpandedCollapsedMap.clear();
-    MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
+    forgetExpansion();
     TestCase::cleanup();
 }
 

@@ -1,4 +1,5 @@
 #include "corvane.h"
+#include "expansion.h"
 #include "inspectortree.h"
 #include "messagetreefilter.h"
 #include "messagetreewidgetitem.h"
@@ -99,8 +100,7 @@ QImage imageOf(QWidget &widget)
 void tst_inspectortree::cleanup()
 {
     Corvane::setConfidentialInformationDisplayEnabled(false);
-    MessageTreeWidget::sMessageInfoExpandedCollapsedMap.clear();
-    MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
+    forgetExpansion();
     TestCase::cleanup();
 }
 

@@ -1,3 +1,4 @@
+#include "expansion.h"
 #include "inspectortree.h"
 #include "latestmessages.h"
 #include "messagetreepanel.h"
@@ -114,8 +115,7 @@ public:
 void tst_rowactions::cleanup()
 {
     QApplication::clipboard()->clear();
-    MessageTreeWidget::sMessageInfoExpandedCollapsedMap.clear();
-    MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
+    forgetExpansion();
     TestCase::cleanup();
 }
 

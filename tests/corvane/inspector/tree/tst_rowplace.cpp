@@ -1,3 +1,4 @@
+#include "expansion.h"
 #include "fieldinfo.h"
 #include "inspectortree.h"
 #include "messagetreewidgetitem.h"
@@ -77,8 +78,7 @@ public:
 
 void tst_rowplace::cleanup()
 {
-    MessageTreeWidget::sMessageInfoExpandedCollapsedMap.clear();
-    MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
+    forgetExpansion();
     TestCase::cleanup();
 }
 

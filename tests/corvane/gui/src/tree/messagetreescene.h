@@ -1,5 +1,6 @@
 #pragma once
 
+#include "expansion.h"
 #include "messagetreewidget.h"
 #include "messagetreewidgetitem.h"
 #include "testformat.h"
@@ -58,12 +59,5 @@ public:
 private:
     QTimer timer;
 };
-
-/** What is remembered for as long as the process lives. */
-inline void forgetExpansion()
-{
-    MessageTreeWidget::sMessageInfoExpandedCollapsedMap.clear();
-    MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
-}
 
 } // namespace corvane::test

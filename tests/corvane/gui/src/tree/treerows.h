@@ -1,6 +1,7 @@
 #pragma once
 
 #include "corvane.h"
+#include "expansion.h"
 #include "messagetreewidget.h"
 #include "messagetreewidgetitem.h"
 #include "testcase.h"
@@ -72,8 +73,7 @@ private Q_SLOTS:
 
     void cleanup()
     {
-        MessageTreeWidget::sMessageInfoExpandedCollapsedMap.clear();
-        MessageTreeWidget::sFieldInfoExpandedCollapsedMap.clear();
+        forgetExpansion();
         Corvane::setConfidentialInformationDisplayEnabled(false);
         TestCase::cleanup();
     }
