@@ -1,5 +1,6 @@
 #include "pathexpressionlineedit.h"
 
+#include "followedexpression.h"
 #include "memleaktracer.h"
 #include "translations.h"
 
@@ -22,10 +23,7 @@ PathExpressionLineEdit::~PathExpressionLineEdit()
 
 void PathExpressionLineEdit::setPathExpression(PathExpression *pathExpression)
 {
-    if (this->pathExpression != nullptr) {
-        QObject::disconnect(this->pathExpression, nullptr, this, nullptr);
-        QObject::disconnect(this, nullptr, this->pathExpression, nullptr);
-    }
+    corvane::disconnectFrom(this->pathExpression, this);
     this->pathExpression = pathExpression;
     if (pathExpression != nullptr) {
         connect(pathExpression, SIGNAL(partsChanged(PathExpression::Parts)),

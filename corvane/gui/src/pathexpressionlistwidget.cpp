@@ -1,5 +1,6 @@
 #include "pathexpressionlistwidget.h"
 
+#include "followedexpression.h"
 #include "memleaktracer.h"
 #include "translations.h"
 
@@ -29,13 +30,7 @@ PathExpressionListWidget::~PathExpressionListWidget()
 
 void PathExpressionListWidget::setPathExpression(PathExpression *pathExpression)
 {
-    if (this->pathExpression != nullptr) {
-        QObject::disconnect(this->pathExpression, nullptr, this, nullptr);
-        QObject::disconnect(this, nullptr, this->pathExpression, nullptr);
-    }
-    this->pathExpression = pathExpression;
-    if (pathExpression != nullptr)
-        connect(pathExpression, SIGNAL(expressionChanged(QString)), SLOT(updateContents()));
+    corvane::follow(this->pathExpression, pathExpression, SIGNAL(expressionChanged(QString)), this);
     updateContents();
 }
 
@@ -47,14 +42,8 @@ PathExpression *PathExpressionListWidget::getPathExpression()
 void PathExpressionListWidget::setOptionsSourcePathExpression(
     PathExpression *optionsSourcePathExpression)
 {
-    if (this->optionsSourcePathExpression != nullptr) {
-        QObject::disconnect(this->optionsSourcePathExpression, nullptr, this, nullptr);
-        QObject::disconnect(this, nullptr, this->optionsSourcePathExpression, nullptr);
-    }
-    this->optionsSourcePathExpression = optionsSourcePathExpression;
-    if (optionsSourcePathExpression != nullptr)
-        connect(optionsSourcePathExpression, SIGNAL(matchesMayHaveChanged()),
-                SLOT(updateContents()));
+    corvane::follow(this->optionsSourcePathExpression, optionsSourcePathExpression,
+                    SIGNAL(matchesMayHaveChanged()), this);
     updateContents();
 }
 
