@@ -19,10 +19,12 @@ namespace {
 
 constexpr Reconnector::Delays shortDelays{20ms, 160ms};
 
-/** Writes down what a reconnector tells. */
-struct Listener
+/** Reads from a source that is opened again, and writes down what is told. */
+struct Connection
 {
-    explicit Listener(Reconnector &reconnector)
+    explicit Connection(ByteSource &source)
+        : pump(source, decoder)
+        , reconnector(pump, source, shortDelays)
     {
         QObject::connect(&reconnector, &Reconnector::opened, &reconnector,
                          [this] { log += QStringLiteral("opened"); });
@@ -34,6 +36,9 @@ struct Listener
                          [this](const QString &text) { states += text; });
     }
 
+    test::LineDecoder decoder;
+    StreamPump pump;
+    Reconnector reconnector;
     QStringList log;
     QStringList states;
     int attempts = 0;
@@ -62,35 +67,32 @@ void TestReconnector::server_killedAndRestarted()
     QVERIFY(server->listen(QHostAddress::LocalHost));
     const quint16 port = server->serverPort();
     TcpClientSource source(QStringLiteral("127.0.0.1"), port);
-    test::LineDecoder decoder;
-    StreamPump pump(source, decoder);
-    Reconnector reconnector(pump, source, shortDelays);
-    const Listener listener(reconnector);
-    pump.start();
+    Connection connection(source);
+    connection.pump.start();
     QTRY_VERIFY(server->hasPendingConnections());
     QTcpSocket *peer = server->nextPendingConnection();
     peer->write("one\ncut");
-    QTRY_COMPARE(decoder.frames, QStringList({"one"}));
+    QTRY_COMPARE(connection.decoder.frames, QStringList({"one"}));
     peer->flush();
     server.reset();
-    QTRY_VERIFY(listener.attempts >= 2);
-    QCOMPARE(decoder.frames, QStringList({"one", "(cut) cut"}));
+    QTRY_VERIFY(connection.attempts >= 2);
+    QCOMPARE(connection.decoder.frames, QStringList({"one", "(cut) cut"}));
 
     server = std::make_unique<QTcpServer>();
     QVERIFY(server->listen(QHostAddress::LocalHost, port));
     QTRY_VERIFY(server->hasPendingConnections());
     server->nextPendingConnection()->write("two\n");
-    QTRY_COMPARE(decoder.frames, QStringList({"one", "(cut) cut", "two"}));
-    QCOMPARE(listener.log.size(), 4);
-    QCOMPARE(listener.log.at(0), "opened");
-    QCOMPARE(listener.log.at(1), "lost: ");
+    QTRY_COMPARE(connection.decoder.frames, QStringList({"one", "(cut) cut", "two"}));
+    QCOMPARE(connection.log.size(), 4);
+    QCOMPARE(connection.log.at(0), "opened");
+    QCOMPARE(connection.log.at(1), "lost: ");
     // Once, however many attempts there were.
-    QVERIFY2(listener.log.at(2).contains("nobody listens"), qPrintable(listener.log.at(2)));
-    QCOMPARE(listener.log.at(3), "opened");
-    QCOMPARE(listener.states.first(), source.getName());
-    QCOMPARE(listener.states.at(1), "Connection lost, trying again in 0.02 s");
-    QCOMPARE(listener.states.at(2), "Connection lost, trying again in 0.04 s");
-    QCOMPARE(listener.states.last(), source.getName());
+    QVERIFY2(connection.log.at(2).contains("nobody listens"), qPrintable(connection.log.at(2)));
+    QCOMPARE(connection.log.at(3), "opened");
+    QCOMPARE(connection.states.first(), source.getName());
+    QCOMPARE(connection.states.at(1), "Connection lost, trying again in 0.02 s");
+    QCOMPARE(connection.states.at(2), "Connection lost, trying again in 0.04 s");
+    QCOMPARE(connection.states.last(), source.getName());
 }
 
 void TestReconnector::server_thatComesLater()
@@ -100,117 +102,98 @@ void TestReconnector::server_thatComesLater()
     const quint16 port = server.serverPort();
     server.close();
     TcpClientSource source(QStringLiteral("127.0.0.1"), port);
-    test::LineDecoder decoder;
-    StreamPump pump(source, decoder);
-    Reconnector reconnector(pump, source, shortDelays);
-    const Listener listener(reconnector);
-    pump.start();
-    QTRY_COMPARE(listener.log.size(), 1);
-    QVERIFY(listener.log.first().contains("nobody listens"));
-    QVERIFY2(listener.states.first().endsWith("Trying again in 0.02 s."),
-             qPrintable(listener.states.first()));
+    Connection connection(source);
+    connection.pump.start();
+    QTRY_COMPARE(connection.log.size(), 1);
+    QVERIFY(connection.log.first().contains("nobody listens"));
+    QVERIFY2(connection.states.first().endsWith("Trying again in 0.02 s."),
+             qPrintable(connection.states.first()));
     QVERIFY(server.listen(QHostAddress::LocalHost, port));
-    QTRY_COMPARE(listener.log.last(), "opened");
+    QTRY_COMPARE(connection.log.last(), "opened");
 }
 
 void TestReconnector::delays_double()
 {
     test::MemorySource source;
-    test::LineDecoder decoder;
-    StreamPump pump(source, decoder);
-    Reconnector reconnector(pump, source, shortDelays);
-    const Listener listener(reconnector);
+    Connection connection(source);
     source.refuseToOpen(QStringLiteral("Not there."));
     QElapsedTimer timer;
     timer.start();
-    pump.start();
-    QTRY_COMPARE(listener.states.size(), 6);
+    connection.pump.start();
+    QTRY_COMPARE(connection.states.size(), 6);
     QVERIFY2(timer.elapsed() >= 20 + 40 + 80 + 160 + 160 - 5,
              qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(
-        listener.states,
+        connection.states,
         QStringList({"Not there. Trying again in 0.02 s.", "Not there. Trying again in 0.04 s.",
                      "Not there. Trying again in 0.08 s.", "Not there. Trying again in 0.16 s.",
                      "Not there. Trying again in 0.16 s.", "Not there. Trying again in 0.16 s."}));
-    QCOMPARE(listener.log, QStringList({"lost: Not there."}));
+    QCOMPARE(connection.log, QStringList({"lost: Not there."}));
 }
 
 void TestReconnector::delays_areShortAgainAfterBytes()
 {
     test::MemorySource source;
-    test::LineDecoder decoder;
-    StreamPump pump(source, decoder);
-    Reconnector reconnector(pump, source, shortDelays);
-    const Listener listener(reconnector);
+    Connection connection(source);
     source.end();
-    pump.start();
-    QTRY_COMPARE(listener.attempts, 2);
+    connection.pump.start();
+    QTRY_COMPARE(connection.attempts, 2);
     source.add("line\n");
-    QTRY_VERIFY(listener.states.contains("Connection lost, trying again in 0.08 s"));
-    const auto count = listener.states.size();
-    QTRY_VERIFY(listener.states.size() > count + 1);
-    QCOMPARE(decoder.frames, QStringList({"line"}));
-    QCOMPARE(listener.states.at(count + 1), "Connection lost, trying again in 0.02 s");
+    QTRY_VERIFY(connection.states.contains("Connection lost, trying again in 0.08 s"));
+    const auto count = connection.states.size();
+    QTRY_VERIFY(connection.states.size() > count + 1);
+    QCOMPARE(connection.decoder.frames, QStringList({"line"}));
+    QCOMPARE(connection.states.at(count + 1), "Connection lost, trying again in 0.02 s");
 }
 
 void TestReconnector::program_isStartedAgain()
 {
     ProcessSource source(QStringLiteral("echo run"));
-    test::LineDecoder decoder;
-    StreamPump pump(source, decoder);
-    Reconnector reconnector(pump, source, shortDelays);
-    pump.start();
-    QTRY_VERIFY(decoder.frames.size() >= 3);
-    QCOMPARE(decoder.frames.first(), "run");
-    reconnector.stop();
-    pump.stop();
+    Connection connection(source);
+    connection.pump.start();
+    QTRY_VERIFY(connection.decoder.frames.size() >= 3);
+    QCOMPARE(connection.decoder.frames.first(), "run");
+    connection.reconnector.stop();
+    connection.pump.stop();
 }
 
 void TestReconnector::brokenSource_isToldWithItsReason()
 {
     test::MemorySource source;
-    test::LineDecoder decoder;
-    StreamPump pump(source, decoder);
-    Reconnector reconnector(pump, source, shortDelays);
-    const Listener listener(reconnector);
-    pump.start();
+    Connection connection(source);
+    connection.pump.start();
     source.breakDown(QStringLiteral("It broke."));
-    QTRY_COMPARE(listener.log, QStringList({"opened", "lost: It broke."}));
+    QTRY_COMPARE(connection.log, QStringList({"opened", "lost: It broke."}));
     // Each time that it was open it was lost again.
-    QTRY_COMPARE(listener.log,
+    QTRY_COMPARE(connection.log,
                  QStringList({"opened", "lost: It broke.", "opened", "lost: It broke."}));
 }
 
 void TestReconnector::stop_triesNoMore()
 {
     test::MemorySource source;
-    test::LineDecoder decoder;
-    StreamPump pump(source, decoder);
-    Reconnector reconnector(pump, source, shortDelays);
-    const Listener listener(reconnector);
+    Connection connection(source);
     source.end();
-    pump.start();
-    QTRY_VERIFY(reconnector.isWaiting());
-    reconnector.stop();
-    QVERIFY(!reconnector.isWaiting());
+    connection.pump.start();
+    QTRY_VERIFY(connection.reconnector.isWaiting());
+    connection.reconnector.stop();
+    QVERIFY(!connection.reconnector.isWaiting());
     QTest::qWait(60);
-    QCOMPARE(listener.attempts, 0);
+    QCOMPARE(connection.attempts, 0);
 }
 
 void TestReconnector::stop_inASlot()
 {
     test::MemorySource source;
-    test::LineDecoder decoder;
-    StreamPump pump(source, decoder);
-    Reconnector reconnector(pump, source, shortDelays);
-    const Listener listener(reconnector);
-    connect(&reconnector, &Reconnector::lost, &reconnector, &Reconnector::stop);
+    Connection connection(source);
+    connect(&connection.reconnector, &Reconnector::lost, &connection.reconnector,
+            &Reconnector::stop);
     source.end();
-    pump.start();
-    QTRY_COMPARE(listener.log, QStringList({"opened", "lost: "}));
+    connection.pump.start();
+    QTRY_COMPARE(connection.log, QStringList({"opened", "lost: "}));
     QTest::qWait(60);
-    QCOMPARE(listener.attempts, 0);
-    QCOMPARE(listener.states, QStringList({"memory"}));
+    QCOMPARE(connection.attempts, 0);
+    QCOMPARE(connection.states, QStringList({"memory"}));
 }
 
 CORVANE_TEST_MAIN(TestReconnector)
