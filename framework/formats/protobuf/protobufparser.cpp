@@ -5,8 +5,6 @@
 
 #include <QtEndian>
 
-#include <google/protobuf/stubs/common.h>
-
 #include <algorithm>
 #include <string_view>
 
@@ -268,8 +266,7 @@ bool ProtobufParser::readText(const ProtobufField &field, Rest &rest, ProtobufRe
         return false;
     const auto *text = reinterpret_cast<const char *>(content.at);
     const qptrdiff size = content.end - content.at;
-    if (field.mustBeUtf8
-        && !google::protobuf::internal::IsStructurallyValidUTF8(text, static_cast<int>(size)))
+    if (field.mustBeUtf8 && !QByteArrayView(text, size).isValidUtf8())
         return false;
     if (field.isList)
         return append(record.at(field.place), &ProtobufSlot::texts, ProtobufText{text, size});
