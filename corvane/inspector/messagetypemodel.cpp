@@ -59,7 +59,7 @@ QVariant MessageTypeModel::headerData(int section, Qt::Orientation orientation, 
     if (role == Qt::DisplayRole)
         return section == NameColumn ? tr("Message") : tr("Count");
     if (role == Qt::TextAlignmentRole && section == CountColumn)
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+        return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     return {};
 }
 
@@ -74,12 +74,12 @@ void MessageTypeModel::refresh()
         }
         endInsertRows();
     }
-    for (int row = 0; row < rowCount(); ++row) {
+    for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
         const unsigned int count = rows.at(row)->getCount();
         if (count == shownCounts.at(row))
             continue;
         shownCounts[row] = count;
-        const QModelIndex cell = index(row, CountColumn);
+        const QModelIndex cell = createIndex(row, CountColumn);
         Q_EMIT dataChanged(cell, cell, {Qt::DisplayRole, sortRole});
     }
 }

@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <utility>
 
 namespace corvane {
 
@@ -82,9 +83,9 @@ private:
 
 } // namespace
 
-FileList::FileList(const QString &name, const QString &hint, const QString &filter, QWidget *parent)
+FileList::FileList(const QString &name, const QString &hint, QString filter, QWidget *parent)
     : QWidget(parent)
-    , filter(filter)
+    , filter(std::move(filter))
     , list(new HintedList(hint, this))
     , addButton(new QToolButton(this))
 {

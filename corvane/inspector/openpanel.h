@@ -27,10 +27,7 @@ public:
      * \a name: for people who hear the window. \a hint: what would fill it. \a filter: of the file
      * dialog.
      */
-    FileList(const QString &name,
-             const QString &hint,
-             const QString &filter,
-             QWidget *parent = nullptr);
+    FileList(const QString &name, const QString &hint, QString filter, QWidget *parent = nullptr);
 
     QStringList getFiles() const;
     void setFiles(const QStringList &files);

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvane {
 
@@ -26,8 +27,8 @@ QString columnsKey()
 class SendersPanel::ClaimedTypeItem final : public QTreeWidgetItem
 {
 public:
-    ClaimedTypeItem(QTreeWidgetItem *parent, const QString &name)
-        : name(name)
+    ClaimedTypeItem(QTreeWidgetItem *parent, QString name)
+        : name(std::move(name))
     {
         parent->addChild(this);
         QTreeWidgetItem::operator=(QTreeWidgetItem()); // gives back what the tree has reserved

@@ -164,7 +164,7 @@ void TransportBar::setPlayback(Playback *newPlayback)
         connectPlayback();
     hideProgress();
     showState();
-    setVisible(playback != nullptr);
+    QToolBar::setVisible(playback != nullptr);
     toggleViewAction()->setVisible(playback != nullptr);
 }
 

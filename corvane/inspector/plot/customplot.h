@@ -4,7 +4,8 @@
 
 #define signals Q_SIGNALS
 #define slots Q_SLOTS
-#define foreach(variable, container) for (variable : container)
+#define foreach(variable, container)                                                               \
+    for (variable : container) // NOLINT(bugprone-macro-parentheses)
 #include <qcustomplot.h>
 #undef foreach
 #undef slots

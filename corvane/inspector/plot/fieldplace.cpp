@@ -106,9 +106,10 @@ QString FieldPlace::getName() const
 {
     QString name = type->getName();
     for (const Step &step : steps) {
-        QStringList names;
-        for (const auto *field = step.field; field != nullptr; field = field->getParentFieldInfo())
-            names.prepend(field->getName());
+        QStringList names(step.field->getName());
+        const FieldInfo *parent = step.field->getParentFieldInfo();
+        for (; parent != nullptr; parent = parent->getParentFieldInfo())
+            names.prepend(parent->getName());
         name += dot + names.join(dot) + elementText(step);
     }
     return name;

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace corvane {
 
@@ -21,8 +22,8 @@ constexpr std::array penStyles = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::
 
 } // namespace
 
-PlotSeries::PlotSeries(const QString &path, int number)
-    : path(path)
+PlotSeries::PlotSeries(QString path, int number)
+    : path(std::move(path))
     , number(number)
 {
     resolve();

@@ -28,7 +28,7 @@ public:
     static constexpr int colorCount = 10;
 
     /** \a path: see FieldPlace. \a number: tells the lines of a plot apart by colour and dashes. */
-    PlotSeries(const QString &path, int number);
+    PlotSeries(QString path, int number);
 
     QString getPath() const { return path; }
 

@@ -208,6 +208,7 @@ void FindBar::collapseAgain()
     const ForgetfulExpansion forgetful;
     const QScopedValueRollback expanding(isExpanding, true);
     QTreeWidgetItem *shown = tree.currentItem();
+    // NOLINTNEXTLINE(modernize-loop-convert): there is no range that goes backwards
     for (auto place = expanded.rbegin(); place != expanded.rend(); ++place) {
         QTreeWidgetItem *row = place->findRow(tree);
         if (row == nullptr)
