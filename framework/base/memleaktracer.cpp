@@ -23,16 +23,18 @@ MemLeakTracer::~MemLeakTracer() = default;
 MemLeakTracer *MemLeakTracer::getInstance()
 {
     // Never destroyed: objects that die during static destruction still report.
-    static MemLeakTracer *instance = new MemLeakTracer;
+    static auto *instance = new MemLeakTracer;
     return instance;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 void MemLeakTracer::doAllocateObject(QString name)
 {
     const QMutexLocker locker(&d->mutex);
     ++d->counts[name];
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 void MemLeakTracer::doDeallocateObject(QString name)
 {
     const QMutexLocker locker(&d->mutex);

@@ -4,7 +4,7 @@ namespace corvane {
 
 Catalogue *Catalogue::getInstance()
 {
-    static Catalogue *instance = new Catalogue;
+    static auto *instance = new Catalogue;
     return instance;
 }
 

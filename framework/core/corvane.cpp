@@ -8,7 +8,7 @@ std::atomic<bool> confidentialDisplay = false;
 
 Corvane *Corvane::getInstance()
 {
-    static Corvane *instance = new Corvane;
+    static auto *instance = new Corvane;
     return instance;
 }
 

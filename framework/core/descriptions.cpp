@@ -74,7 +74,7 @@ MessageInfo *FormatInfoData::findMessage(const QString &name) const
 QString firstSentence(const QString &text)
 {
     const auto end = text.indexOf(QLatin1String(". "));
-    const QString sentence = end < 0 ? text : text.left(end + 1);
+    QString sentence = end < 0 ? text : text.left(end + 1);
     if (sentence.size() <= maximumSentence)
         return sentence;
     return sentence.left(maximumSentence - 1).trimmed() + QChar(0x2026);

@@ -98,6 +98,7 @@ FieldInfo::Role FieldInfo::getRole() const
     return d->role;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 bool FieldInfo::isSymbolicRepresentation(QString text) const
 {
     return d->symbols != nullptr && d->symbols->hasName(text);

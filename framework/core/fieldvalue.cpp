@@ -33,6 +33,7 @@ quint64 bitsOf(T *pointer)
 template <typename T>
 T *pointerIn(quint64 bits)
 {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): all kinds of values share 64 bits
     return reinterpret_cast<T *>(static_cast<quintptr>(bits));
 }
 

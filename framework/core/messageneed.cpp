@@ -14,7 +14,7 @@ MessageNeedManager::~MessageNeedManager() = default;
 
 MessageNeedManager *MessageNeedManager::getDefault()
 {
-    static MessageNeedManager *manager = new MessageNeedManager;
+    static auto *manager = new MessageNeedManager;
     return manager;
 }
 
@@ -25,7 +25,6 @@ bool MessageNeedManager::isNeeded(const MessageInfo *messageInfo) const
 
 MessageNeed::MessageNeed(MessageNeedManager *manager)
     : manager(manager != nullptr ? manager : MessageNeedManager::getDefault())
-    , firstSlot(0)
 {
 }
 
@@ -55,6 +54,7 @@ void MessageNeed::setMessageNeeded(const MessageInfo *messageInfo)
     declare(messageInfo);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 void MessageNeed::setMessagesNeeded(QList<const MessageInfo *> messageInfos)
 {
     clearMessagesNeeded(false);

@@ -37,6 +37,7 @@ MessageStatisticsData::Sender *MessageStatisticsData::findSender(quint32 id)
 }
 
 /** Whether there is room for one more sender, which is then counted. */
+// NOLINTNEXTLINE(readability-make-member-function-const): it counts
 bool MessageStatisticsData::takeRoom()
 {
     if (senders.size() == maximumSenders)

@@ -274,16 +274,19 @@ void PathExpression::announce()
         d->announcing = false;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 void PathExpression::setString(QString text, PathExpression::Parts parts)
 {
     setTexts(text, parts, false);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 void PathExpression::setString(QString text)
 {
     setTexts(text, AllParts, false);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 void PathExpression::setStringPrefix(QString prefix, PathExpression::Parts parts)
 {
     setTexts(prefix, parts, true);
@@ -309,10 +312,9 @@ void PathExpression::setWildCard(PathExpression::Parts parts)
 
 bool PathExpression::isWildCard(PathExpression::Parts parts) const
 {
-    for (const Part part : corvane::allParts)
-        if (parts.testFlag(part) && !d->matchesEverything(part))
-            return false;
-    return true;
+    return std::all_of(corvane::allParts.begin(), corvane::allParts.end(), [&](Part part) {
+        return !parts.testFlag(part) || d->matchesEverything(part);
+    });
 }
 
 QStringList PathExpression::getMatchingExpressionsStringList(PathExpression::Parts parts) const

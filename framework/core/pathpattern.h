@@ -114,13 +114,11 @@ public:
                 names.back().addLiteral(text.at(++i));
             else if (c == quote)
                 quoted = !quoted;
-            else if (quoted)
-                names.back().addLiteral(c);
-            else if (c == dot && severalNames)
+            else if (!quoted && c == dot && severalNames)
                 names.emplace_back();
-            else if (c == star)
+            else if (!quoted && c == star)
                 names.back().addAnyText();
-            else if (c == questionMark)
+            else if (!quoted && c == questionMark)
                 names.back().addAnyCharacter();
             else
                 names.back().addLiteral(c);

@@ -266,13 +266,13 @@ void Rhythm::begin(double period, int count, IntervalStatistics &statistics)
     }
     // What led here is part of the stretch, and so is all since the first message if that is known.
     const bool fromStart = startIsOpen && sinceStart == static_cast<quint64>(usable);
-    const auto last = intervals.begin() + filled;
-    const auto first = last - (fromStart ? usable : count);
+    Interval *const last = intervals.data() + filled;
+    Interval *const first = last - (fromStart ? usable : count);
     qint64 startUs = lastTimeUs;
-    for (auto each = first; each != last; ++each)
+    for (Interval *each = first; each != last; ++each)
         startUs -= std::llround(each->us);
     startIsOpen = fromStart;
-    for (auto each = first; each != last; ++each) {
+    for (Interval *each = first; each != last; ++each) {
         statistics.remove(each->classIndex);
         each->classIndex = follow(startUs, each->us, statistics);
         startUs += std::llround(each->us);

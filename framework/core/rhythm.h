@@ -64,7 +64,7 @@ private:
     void learn(IntervalStatistics &statistics);
     bool comesInBursts(double period) const;
     std::span<const Interval> latest(int count) const;
-    void begin(double period, int intervals, IntervalStatistics &statistics);
+    void begin(double period, int count, IntervalStatistics &statistics);
     void end();
     void endIfLost();
     void countMiss();

@@ -35,6 +35,6 @@ private:
     void declare(const MessageInfo *messageInfo);
 
     MessageNeedManager *manager; ///< Not owned.
-    quint32 firstSlot; ///< The one declared type, as the manager counts them.
+    quint32 firstSlot = 0; ///< The one declared type, as the manager counts them; 0 for none.
     QList<quint32> *furtherSlots = nullptr; ///< Owned; null until more than one was declared.
 };

@@ -17,9 +17,9 @@ namespace corvane {
 namespace {
 
 // So many bytes without a frame that decides are enough to stop waiting for one.
-constexpr size_t framingHorizon = 64 * 1024;
+constexpr size_t framingHorizon = size_t{64} * 1024;
 // A stream that holds no frames at all is told about in pieces, not only at its end.
-constexpr size_t longestSkip = 64 * 1024;
+constexpr size_t longestSkip = size_t{64} * 1024;
 constexpr size_t timeStampSize = 8;
 // 2000-01-01 and 2100-01-01: a time between them is taken for one, other numbers are not.
 constexpr quint64 earliestPlausibleUs = 946'684'800'000'000;
@@ -92,7 +92,7 @@ void MavlinkDecoder::reset(quint64 newPosition)
 
 QByteArrayView MavlinkDecoder::getRest(size_t from) const
 {
-    return QByteArrayView(buffer.data() + from, static_cast<qsizetype>(buffer.size() - from));
+    return {buffer.data() + from, static_cast<qsizetype>(buffer.size() - from)};
 }
 
 StreamDecoder::Step MavlinkDecoder::step()

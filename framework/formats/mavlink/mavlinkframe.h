@@ -33,8 +33,8 @@ struct CORVANEFRAMEWORK_EXPORT MavlinkFrame
 
     /** The checksum that the frame must have when its type's extra byte is \a extra. */
     quint16 computeChecksum(QByteArrayView bytes, quint8 extra) const;
-    /** The same if the payload had zeros behind it up to \a payloadSize bytes. */
-    quint16 computeExtendedChecksum(QByteArrayView bytes, quint8 extra, int payloadSize) const;
+    /** The same if the payload had zeros behind it up to \a extendedSize bytes. */
+    quint16 computeExtendedChecksum(QByteArrayView bytes, quint8 extra, int extendedSize) const;
 
     qsizetype getSize() const
     {

@@ -31,6 +31,7 @@ public:
     /** Whether the frame carries a signature, the last 13 bytes. It is not verified. */
     bool isSigned() const { return hasSignature; }
 
+    // NOLINTNEXTLINE(misc-new-delete-overloads): made by placement, with the frame behind it
     static void operator delete(void *block) { ::operator delete(block); }
 
 private:
