@@ -95,6 +95,7 @@ SendersPanel::SendersPanel(const Reception &reception, QWidget *parent)
             item = item->parent();
         Q_EMIT senderChosen(item->data(SenderColumn, Qt::UserRole).toUInt());
     });
+    connect(tree, &QTreeWidget::itemExpanded, this, &SendersPanel::refresh);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(hint);
@@ -146,6 +147,14 @@ void SendersPanel::refreshRow(const SenderStatistics &sender)
     SteadyTreeWidget::setItemNumber(row.item, GapsColumn, sender.sequenceGaps);
     SteadyTreeWidget::setItemNumber(row.item, LostColumn, sender.lost);
     SteadyTreeWidget::setItemNumber(row.item, CrcErrorsColumn, sender.crcErrors);
+    if (!sender.crcErrorsByType.isEmpty())
+        row.item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+    if (row.item->isExpanded())
+        refreshClaimedTypes(row, sender);
+}
+
+void SendersPanel::refreshClaimedTypes(Row &row, const SenderStatistics &sender)
+{
     for (auto entry = sender.crcErrorsByType.begin(); entry != sender.crcErrorsByType.end();
          ++entry) {
         ClaimedTypeItem *&item = row.claimedTypes[entry.key()];

@@ -51,11 +51,13 @@ private:
     struct Row
     {
         QTreeWidgetItem *item = nullptr; ///< Owned by the tree.
-        QHash<const MessageInfo *, ClaimedTypeItem *> claimedTypes; ///< The rows below it.
+        /** The rows below it, which noise makes many of: there are none until it is expanded. */
+        QHash<const MessageInfo *, ClaimedTypeItem *> claimedTypes;
     };
 
     void hideErrorsWithoutChecksum();
     void refreshRow(const SenderStatistics &sender);
+    static void refreshClaimedTypes(Row &row, const SenderStatistics &sender);
 
     const Reception &reception;
     QLabel *hint; ///< Owned as a child. Shown while there is nothing else.

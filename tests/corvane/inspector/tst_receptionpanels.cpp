@@ -34,6 +34,7 @@ private Q_SLOTS:
     void statistics_rememberTheirSorting();
     void statistics_surviveBrokenSettings();
     void senders_showLossesAndDamage();
+    void senders_listClaimedTypesOnceExpanded();
     void senders_sortClaimedTypesByTheirErrors();
     void senders_withoutChecksum_haveNoErrorColumn();
     void events_showOnlyWhatIsLookedFor();
@@ -162,7 +163,7 @@ void tst_receptionpanels::senders_showLossesAndDamage()
     Scene scene;
     SendersPanel panel(scene.reception);
     panel.show();
-    const auto *tree = panel.findChild<SteadyTreeWidget *>();
+    auto *tree = panel.findChild<SteadyTreeWidget *>();
     QVERIFY(tree->columnWidth(3) > tree->fontMetrics().horizontalAdvance("99999999")); // "Lost"
     QVERIFY(panel.findChild<QLabel *>()->isVisible());
     scene.reception.receiveFrame(scene.frame(0));
@@ -171,8 +172,10 @@ void tst_receptionpanels::senders_showLossesAndDamage()
     scene.reception.receiveDamagedFrame(scene.frame(5), "damaged");
     panel.refresh();
     QVERIFY(!panel.findChild<QLabel *>()->isVisible());
+    tree->expandAll();
+    panel.refresh();
     QCOMPARE(printed(*tree), lines(R"(
-        +unit 1 | 2 | 1 | 3 | 1
+        unit 1 | 2 | 1 | 3 | 1
           A |  |  |  | 1
         unit 2 | 1 | 0 | 0 | 0
     )"));
@@ -181,6 +184,31 @@ void tst_receptionpanels::senders_showLossesAndDamage()
     QCOMPARE(tree->topLevelItem(0)->child(0)->text(4), "2");
     QCOMPARE(tree->topLevelItem(0)->child(0)->textAlignment(4),
              tree->topLevelItem(0)->textAlignment(4));
+}
+
+void tst_receptionpanels::senders_listClaimedTypesOnceExpanded()
+{
+    Scene scene;
+    SendersPanel panel(scene.reception);
+    panel.show();
+    auto *tree = panel.findChild<SteadyTreeWidget *>();
+    scene.reception.receiveFrame(scene.frame(0));
+    panel.refresh();
+    QTreeWidgetItem *sender = tree->topLevelItem(0);
+    QCOMPARE(sender->childIndicatorPolicy(), QTreeWidgetItem::DontShowIndicatorWhenChildless);
+    scene.reception.receiveDamagedFrame(scene.frame(1), "damaged");
+    panel.refresh();
+    QCOMPARE(sender->childIndicatorPolicy(), QTreeWidgetItem::ShowIndicator);
+    QCOMPARE(sender->childCount(), 0);
+    tree->setCurrentItem(sender);
+    QTest::keyClick(tree, Qt::Key_Right);
+    QCOMPARE(sender->childCount(), 1);
+    QCOMPARE(sender->child(0)->text(4), "1");
+    QTest::keyClick(tree, Qt::Key_Left);
+    scene.reception.receiveDamagedFrame(scene.frame(2), "damaged");
+    panel.refresh();
+    QTest::keyClick(tree, Qt::Key_Right);
+    QCOMPARE(sender->child(0)->text(4), "2");
 }
 
 void tst_receptionpanels::senders_sortClaimedTypesByTheirErrors()
@@ -197,6 +225,7 @@ void tst_receptionpanels::senders_sortClaimedTypesByTheirErrors()
     panel.refresh();
     tree->sortByColumn(4, Qt::AscendingOrder);
     const QTreeWidgetItem *sender = tree->topLevelItem(0);
+    tree->expandItem(sender);
     QCOMPARE(sender->child(0)->text(0), "B");
     // Numbers, of which 9 is less than 13.
     for (quint32 i = 12; i < 22; ++i) {
