@@ -1,37 +1,18 @@
-#include "linedecoder.h"
-#include "memorysource.h"
 #include "processsource.h"
-#include "replayclock.h"
-#include "streampump.h"
+#include "pumpscene.h"
 #include "testcase.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QSignalSpy>
 
 #include <chrono>
-#include <ctime>
 #include <new>
 
 using namespace corvane;
+using namespace corvane::test;
 using namespace std::chrono_literals;
 
 namespace {
-
-/** \a count lines of the text \a line. */
-QByteArray lines(int count, const QByteArray &line = "line")
-{
-    return (line + '\n').repeated(count);
-}
-
-/** Lines with the recorded times 0, \a intervalUs, ... */
-QByteArray timedLines(int count, qint64 intervalUs)
-{
-    QByteArray result;
-    for (int i = 0; i < count; ++i)
-        result += QByteArray::number(i * intervalUs) + " x\n";
-    return result;
-}
 
 /** Keeps the processor busy, as decoding and showing would. */
 void work(std::chrono::microseconds duration)
@@ -63,28 +44,6 @@ private:
     qint64 framesBefore = 0;
 };
 
-double getProcessorMs()
-{
-    return double(std::clock()) * 1000.0 / CLOCKS_PER_SEC;
-}
-
-/** A pump with everything that it needs. */
-struct Fixture
-{
-    explicit Fixture(ReplayClock *clock = nullptr)
-        : pump(source, decoder, clock)
-        , finished(&pump, &StreamPump::finished)
-        , failed(&pump, &StreamPump::failed)
-    {
-    }
-
-    test::MemorySource source;
-    test::LineDecoder decoder;
-    StreamPump pump;
-    QSignalSpy finished;
-    QSignalSpy failed;
-};
-
 } // namespace
 
 class TestStreamPump : public corvane::test::TestCase
@@ -108,17 +67,7 @@ private Q_SLOTS:
     void stop_withinASlice();
     void stop_byAFollowerOfTheSource();
     void nestedEventLoop_doesNotReenter();
-    void clock_delaysFrames();
-    void clock_asFastAsPossible();
-    void clock_changedWhileWaiting();
-    void clock_pausedWithThePump();
-    void clock_pausedByItself_costsNothing();
     void start_again();
-    void goal_isReachedWhilePaused();
-    void goal_isNotDelayedByTheClock();
-    void goal_waitsForTheSource();
-    void goal_endsWithTheSource();
-    void seek_ofALiveSource_isRefused();
 };
 
 void TestStreamPump::bytes_becomeFrames()
@@ -379,94 +328,6 @@ void TestStreamPump::nestedEventLoop_doesNotReenter()
     QCOMPARE(f.decoder.frames, QStringList({"one", "two", "three"}));
 }
 
-void TestStreamPump::clock_delaysFrames()
-{
-    ReplayClock clock;
-    Fixture f(&clock);
-    QElapsedTimer timer;
-    QList<qint64> timesMs;
-    f.decoder.onFrame = [&](const QString &) { timesMs.append(timer.elapsed()); };
-    f.source.add(timedLines(6, 40'000));
-    f.source.end();
-    timer.start();
-    f.pump.start();
-    QTRY_COMPARE(f.finished.size(), 1);
-    QCOMPARE(timesMs.size(), 6);
-    for (int i = 1; i < 6; ++i) {
-        const qint64 sinceFirstMs = timesMs[i] - timesMs[0];
-        QVERIFY2(sinceFirstMs >= i * 40 - 2, qPrintable(QString::number(sinceFirstMs)));
-        QVERIFY2(sinceFirstMs < i * 40 + 2000, qPrintable(QString::number(sinceFirstMs)));
-    }
-}
-
-void TestStreamPump::clock_asFastAsPossible()
-{
-    ReplayClock clock;
-    clock.setAsFastAsPossible();
-    Fixture f(&clock);
-    f.source.add(timedLines(1000, 1'000'000));
-    f.source.end();
-    f.pump.start();
-    QTRY_COMPARE_WITH_TIMEOUT(f.finished.size(), 1, 2000);
-    QCOMPARE(f.decoder.frameCount, 1000);
-}
-
-void TestStreamPump::clock_changedWhileWaiting()
-{
-    ReplayClock clock;
-    Fixture f(&clock);
-    f.source.add(timedLines(2, 50'000'000));
-    f.source.end();
-    f.pump.start();
-    QTest::qWait(20);
-    QCOMPARE(f.decoder.frameCount, 1);
-    clock.setAsFastAsPossible();
-    QTRY_COMPARE_WITH_TIMEOUT(f.finished.size(), 1, 2000);
-}
-
-void TestStreamPump::clock_pausedWithThePump()
-{
-    qint64 nowUs = 0;
-    ReplayClock clock([&nowUs] { return nowUs; });
-    Fixture f(&clock);
-    f.source.add(timedLines(3, 1'000'000));
-    f.pump.start();
-    QTRY_COMPARE(f.decoder.frameCount, 1);
-    f.pump.setPaused(true);
-    QVERIFY(clock.isPaused());
-    nowUs = 10'000'000;
-    QTest::qWait(20);
-    f.pump.setPaused(false);
-    QTest::qWait(80);
-    QCOMPARE(f.decoder.frameCount, 1);
-    nowUs += 1'000'000;
-    QTRY_COMPARE(f.decoder.frameCount, 2);
-}
-
-void TestStreamPump::clock_pausedByItself_costsNothing()
-{
-    qint64 nowUs = 0;
-    int asked = 0;
-    ReplayClock clock([&] {
-        ++asked;
-        return nowUs;
-    });
-    Fixture f(&clock);
-    f.source.add("0 x\n1 x\n");
-    f.pump.start();
-    QTRY_COMPARE(f.decoder.frameCount, 1);
-    clock.pause();
-    nowUs = 100;
-    asked = 0;
-    const double processorBefore = getProcessorMs();
-    QTest::qWait(200);
-    QVERIFY(getProcessorMs() - processorBefore < 100.0);
-    QCOMPARE(f.decoder.frameCount, 1);
-    clock.resume();
-    nowUs += 100;
-    QTRY_COMPARE(f.decoder.frameCount, 2);
-}
-
 void TestStreamPump::start_again()
 {
     Fixture f;
@@ -479,75 +340,6 @@ void TestStreamPump::start_again()
     QTRY_COMPARE(f.finished.size(), 2);
     QCOMPARE(f.decoder.frames, QStringList({"one", "two"}));
     QCOMPARE(f.pump.getBytesRead(), quint64(4));
-}
-
-void TestStreamPump::goal_isReachedWhilePaused()
-{
-    Fixture f;
-    QSignalSpy reached(&f.pump, &StreamPump::goalReached);
-    f.source.add("one\ntwo\nthree\n");
-    f.pump.setPaused(true);
-    f.pump.start();
-    f.pump.runUntil([&] { return f.decoder.frameCount == 2; });
-    QVERIFY(f.pump.hasGoal());
-    QTRY_COMPARE(reached.size(), 1);
-    QVERIFY(!f.pump.hasGoal());
-    QTest::qWait(20);
-    QCOMPARE(f.decoder.frames, QStringList({"one", "two"}));
-    f.pump.setPaused(false);
-    QTRY_COMPARE(f.decoder.frameCount, 3);
-    QCOMPARE(reached.size(), 1);
-}
-
-void TestStreamPump::goal_isNotDelayedByTheClock()
-{
-    ReplayClock clock;
-    Fixture f(&clock);
-    QSignalSpy reached(&f.pump, &StreamPump::goalReached);
-    f.source.add(timedLines(10, 5'000'000));
-    f.pump.start();
-    QTest::qWait(20);
-    QCOMPARE(f.decoder.frameCount, 1);
-    f.pump.runUntil([&] { return f.decoder.frameCount == 5; });
-    QTRY_COMPARE(reached.size(), 1);
-    QTest::qWait(20);
-    QCOMPARE(f.decoder.frameCount, 5);
-}
-
-void TestStreamPump::goal_waitsForTheSource()
-{
-    Fixture f;
-    f.pump.setPaused(true);
-    f.pump.start();
-    f.pump.runUntil([&] { return f.decoder.frameCount == 1; });
-    QTest::qWait(20);
-    f.source.add("one\ntwo\n");
-    QTRY_VERIFY(!f.pump.hasGoal());
-    QTest::qWait(20);
-    QCOMPARE(f.decoder.frames, QStringList({"one"}));
-}
-
-void TestStreamPump::goal_endsWithTheSource()
-{
-    Fixture f;
-    QSignalSpy reached(&f.pump, &StreamPump::goalReached);
-    f.source.add("one\n");
-    f.source.end();
-    f.pump.setPaused(true);
-    f.pump.start();
-    f.pump.runUntil([] { return false; });
-    QTRY_COMPARE(f.finished.size(), 1);
-    QVERIFY(!f.pump.hasGoal());
-    QCOMPARE(reached.size(), 0);
-}
-
-void TestStreamPump::seek_ofALiveSource_isRefused()
-{
-    Fixture f;
-    f.source.add("one\n");
-    f.pump.start();
-    QVERIFY(!f.pump.seek(0));
-    QTRY_COMPARE(f.decoder.frames, QStringList({"one"}));
 }
 
 CORVANE_TEST_MAIN(TestStreamPump)
