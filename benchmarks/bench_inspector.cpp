@@ -6,7 +6,6 @@
 // Set QT_QPA_PLATFORM=offscreen where there is no display.
 
 #include "eventroundprobe.h"
-#include "heap.h"
 #include "inspectortree.h"
 #include "mainwindow.h"
 #include "playback.h"
@@ -87,7 +86,6 @@ std::optional<double> measureInWindow(const Options &options, int passes, qint64
 
 int main(int argc, char *argv[])
 {
-    corvane::keepLargeBlocksApart(); // as the inspector does
     const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3) {

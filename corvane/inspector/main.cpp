@@ -1,7 +1,6 @@
 #include "crashtrace.h"
 #include "eventroundprobe.h"
 #include "exportcommand.h"
-#include "heap.h"
 #include "icons.h"
 #include "inspectortranslations.h"
 #include "noticearea.h"
@@ -111,7 +110,6 @@ void writeScreenshotLater(const corvane::Workbench &workbench, const Options &op
 int runWindow(const Options &options)
 {
     corvane::keepTrace(corvane::getCrashFolder());
-    corvane::keepLargeBlocksApart();
     QApplication::setWindowIcon(corvane::makeProgramIcon());
     corvane::SettingsFile settings(corvane::SettingsFile::getDefaultPath());
     corvane::Workbench workbench(options, settings.get());

@@ -48,8 +48,8 @@ public:
     /** The value at \a index, which counts from 0; an invalid value at or beyond the count. */
     virtual FieldValue getValue(const Message *message, unsigned int index) const = 0;
     /**
-     * Where the value at \a index lies in the bytes of \a message: true and the range, or false
-     * (and nothing written) where it has no place of its own, as a computed value.
+     * Where the value at \a index lies in the bytes of \a message, also where they say that there
+     * is none: true and the range, or false (and nothing written) without a place, as computed.
      */
     virtual bool getByteRange(const Message *message,
                               unsigned int index,

@@ -5,7 +5,6 @@
 
 #include "abstractplotpanel.h"
 #include "eventroundprobe.h"
-#include "heap.h"
 #include "mainwindow.h"
 #include "report.h"
 #include "session.h"
@@ -66,7 +65,6 @@ void showEverything(MainWindow &window, const QStringList &paths)
 
 int main(int argc, char *argv[])
 {
-    corvane::keepLargeBlocksApart(); // as the inspector does
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     Options options = Options::parse({arguments.value(0), QStringLiteral("--definitions"),

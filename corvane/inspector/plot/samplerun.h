@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pageallocator.h"
+
 #include <QtGlobal>
 
 #include <algorithm>
@@ -37,10 +39,12 @@ public:
     /** Thinning keeps of each six samples at most three. */
     static constexpr size_t groupSize = 6;
 
+    using Samples = std::vector<Sample, PageAllocator<Sample>>;
+
     /** \a expected: samples for which memory is taken at once. */
     explicit SampleRun(size_t expected);
 
-    const std::vector<Sample> &getSamples() const { return samples; }
+    const Samples &getSamples() const { return samples; }
 
     size_t size() const { return samples.size(); }
 
@@ -85,9 +89,10 @@ private:
     void rebuildBlocks(size_t firstSample);
     size_t keepExtremes(size_t first, size_t end, size_t kept);
 
-    std::vector<Sample> samples;
+    Samples samples;
     size_t samplesBefore = 0; ///< The most there were when some were taken away.
-    std::vector<Block> blocks; ///< Of each blockSize samples; the last may be of fewer.
+    std::vector<Block, PageAllocator<Block>>
+        blocks; ///< Of each blockSize samples; the last may be of fewer.
 };
 
 } // namespace corvane

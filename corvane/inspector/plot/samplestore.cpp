@@ -10,8 +10,10 @@ namespace {
 
 // Beyond it the sums and differences of an axis would overflow.
 constexpr double largestShown = 1e200;
-// Thinned at once, in some ten microseconds.
-constexpr size_t largestRun = 4096 / SampleRun::groupSize * SampleRun::groupSize;
+// Thinned at once, in some ten microseconds. Its samples fill 21 pages of 4 KiB, and what is known
+// of its blocks fills one.
+constexpr size_t largestRun = 5376;
+static_assert(largestRun % SampleRun::groupSize == 0);
 constexpr size_t leastRuns = 8;
 
 void addColumn(const SampleStore::Iterator &first,

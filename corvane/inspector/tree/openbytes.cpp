@@ -57,11 +57,10 @@ bool mustHide(const DecodedMessage &message)
 
 void addRanges(std::vector<ByteRange> &ranges, const FieldInfo *field, const Message *message)
 {
-    const unsigned int count = field->getNumberOfValues(message);
-    for (unsigned int index = 0; index < count; ++index) {
-        ByteRange range;
-        if (!field->getByteRange(message, index, &range.offset, &range.length))
-            continue;
+    ByteRange range;
+    for (unsigned int index = 0; field->getByteRange(message, index, &range.offset, &range.length);
+         ++index)
+    {
         if (!ranges.empty() && ranges.back().offset + ranges.back().length == range.offset)
             ranges.back().length += range.length;
         else
@@ -119,11 +118,11 @@ std::optional<RowPlace> findPlaceOfByte(const Message *message, quint32 offset)
         if (field->getParentFieldInfo() != nullptr
             || (field->isConfidential() && !Corvane::confidentialInformationDisplayEnabled()))
             continue;
-        const unsigned int count = field->getNumberOfValues(message);
-        for (unsigned int index = 0; index < count; ++index) {
-            ByteRange range;
-            if (!field->getByteRange(message, index, &range.offset, &range.length)
-                || offset < range.offset || offset - range.offset >= range.length)
+        ByteRange range;
+        for (unsigned int index = 0;
+             field->getByteRange(message, index, &range.offset, &range.length); ++index)
+        {
+            if (offset < range.offset || offset - range.offset >= range.length)
                 continue;
             const bool isList = field->isRepeated() && !field->isStringField();
             return RowPlace{message->getInfo(), {{field, isList ? static_cast<int>(index) : -1}}};

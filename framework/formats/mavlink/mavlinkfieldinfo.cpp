@@ -44,12 +44,7 @@ MavlinkFieldInfo::MavlinkFieldInfo(const MavlinkFieldDefinition &definition,
 
 unsigned int MavlinkFieldInfo::getNumberOfValues(const Message *message) const
 {
-    if (message->getInfo() != owner)
-        return 0;
-    const MavlinkMessage &frame = asMavlink(message);
-    if (extension && frame.isVersion1())
-        return 0;
-    return isInvalid(frame) ? 0 : length;
+    return isInFrameOf(message) && !isInvalid(asMavlink(message)) ? length : 0;
 }
 
 bool MavlinkFieldInfo::getByteRange(const Message *message,
@@ -57,7 +52,8 @@ bool MavlinkFieldInfo::getByteRange(const Message *message,
                                     quint32 *byteOffset,
                                     quint32 *byteLength) const
 {
-    if (index >= getNumberOfValues(message))
+    // Bytes that say that there is no value lie somewhere as well.
+    if (index >= length || !isInFrameOf(message))
         return false;
     const MavlinkMessage &frame = asMavlink(message);
     const quint32 begin = offset + index * elementSize;
@@ -68,6 +64,11 @@ bool MavlinkFieldInfo::getByteRange(const Message *message,
     *byteOffset = static_cast<quint32>(frame.getHeaderSize()) + begin;
     *byteLength = std::min<quint32>(elementSize, sent - begin);
     return true;
+}
+
+bool MavlinkFieldInfo::isInFrameOf(const Message *message) const
+{
+    return message->getInfo() == owner && !(extension && asMavlink(message).isVersion1());
 }
 
 quint64 MavlinkFieldInfo::readBits(const MavlinkMessage &message, unsigned int index) const

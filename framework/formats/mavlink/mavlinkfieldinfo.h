@@ -49,6 +49,8 @@ protected:
     QString readString(const Message *message) const override;
 
 private:
+    /** Whether \a message can hold the field: version 1 of its type lacks extensions. */
+    bool isInFrameOf(const Message *message) const;
     quint64 readBits(const MavlinkMessage &message, unsigned int index) const;
     bool isInvalid(const MavlinkMessage &message) const;
     bool equalsInvalid(quint64 bits, quint64 invalidBits) const;

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void nothingChosen_saysWhatToDo();
     void message_isShownWithTheFieldMarked_data();
     void message_isShownWithTheFieldMarked();
+    void noValue_hasItsBytes();
     void newMessages_areFollowed();
     void clearedMessage_keepsThePlace();
     void type_replacesThePlaceInAnother();
@@ -39,11 +40,12 @@ private Q_SLOTS:
 
 namespace {
 
-/** STATE: big (uint32) at 0, word (uint16) at 4, list (uint8[3]) at 6. */
+/** STATE: big (uint32, without a value when all ones) at 0, word (uint16) at 4, list (uint8[3])
+ * at 6. */
 const char dialect[] = R"(
 <enums><enum name="FLAGS" bitmask="true"><entry value="1" name="A"/></enum></enums>
 <messages><message id="300" name="STATE">
-  <field type="uint32_t" name="big"/>
+  <field type="uint32_t" name="big" invalid="UINT32_MAX"/>
   <field type="uint16_t" name="word" enum="FLAGS"/>
   <field type="uint8_t[3]" name="list"/>
 </message></messages>)";
@@ -145,6 +147,17 @@ void tst_bytespanel::message_isShownWithTheFieldMarked()
     QCOMPARE(shown.view()->getMarked(), expected);
     shown.view()->selectAll();
     QVERIFY(shown.view()->getSelectedText().contains(payload));
+}
+
+void tst_bytespanel::noValue_hasItsBytes()
+{
+    Shown shown;
+    const FrameMessage message = shown.message("FF FF FF FF A1 A2 B1 B2 B3");
+    QCOMPARE(shown.field("big")->getNumberOfValues(message.get()), 0u);
+    shown.panel.setPlace(shown.place("big"), message.get());
+    QCOMPARE(shown.heading(), "STATE: 21 bytes. big: offset 10, length 4.");
+    QCOMPARE(findPlaceOfByte(message.get(), headerSize + 3)->getField(), shown.field("big"));
+    shown.panel.setPlace(std::nullopt, nullptr);
 }
 
 void tst_bytespanel::newMessages_areFollowed()

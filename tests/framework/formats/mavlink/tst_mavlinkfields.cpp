@@ -53,12 +53,13 @@ constexpr const char *dialect = R"(
   <message id="20" name="PLAIN"><field type="uint8_t" name="f"/><field type="uint8_t" name="g"/></message>
 </messages>)";
 
-/** A message type whose field has a value that means "none". */
-QByteArray typeWithInvalid(int id, const char *type, const char *invalid)
+/** A dialect of one message type, N1, whose field f has a value that means "none". */
+QByteArray dialectWithInvalid(const QByteArray &type, const QByteArray &invalid)
 {
-    const QByteArray number = QByteArray::number(id);
-    return "<message id='" + number + "' name='N" + number + "'><field type='" + type
-           + "' name='f' enum='MODE' invalid='" + invalid + "'/></message>";
+    return "<enums><enum name='MODE'><entry value='0' name='OFF'/><entry value='5' name='FIVE'/>"
+           "<entry value='255' name='NEGATIVE'/></enum></enums><messages><message id='1' name='N1'>"
+           "<field type='"
+           + type + "' name='f' enum='MODE' invalid='" + invalid + "'/></message></messages>";
 }
 
 QByteArray frameOf(const MavlinkFormat &format, quint32 id, const QByteArray &payload)
@@ -91,6 +92,7 @@ private Q_SLOTS:
     void index_beyondCountIsInvalid();
     void byteRange_data();
     void byteRange();
+    void byteRange_withoutValue();
     void memory_isBytesAndLittleMore();
 
 private:
@@ -325,12 +327,9 @@ void tst_MavlinkFields::invalid()
     QFETCH(const QByteArray, payload);
     QFETCH(const QString, text);
     MavlinkFormat own;
-    const QString file = folder.writeDialect(
-        "invalid.xml", "<enums><enum name='MODE'><entry value='0' name='OFF'/><entry value='5' "
-                       "name='FIVE'/><entry value='255' name='NEGATIVE'/></enum></enums><messages>"
-                           + typeWithInvalid(1, type.toLatin1(), pattern.toLatin1())
-                           + "</messages>");
-    QVERIFY(own.load(file).isOk());
+    QVERIFY(own.load(folder.writeDialect("invalid.xml",
+                                         dialectWithInvalid(type.toLatin1(), pattern.toLatin1())))
+                .isOk());
     const FrameMessage message(own, frameOf(own, 1, payload));
     if (type.startsWith(QLatin1String("uint8_t[")) && text != QLatin1String("absent")) {
         // Symbols would hide the numbers of the elements.
@@ -400,6 +399,24 @@ void tst_MavlinkFields::byteRange()
               ->getByteRange(message.get(), static_cast<unsigned int>(index), &offset, &length);
     QCOMPARE(found ? QStringLiteral("%1+%2").arg(offset).arg(length) : QStringLiteral("none"),
              range);
+}
+
+void tst_MavlinkFields::byteRange_withoutValue()
+{
+    MavlinkFormat own;
+    QVERIFY(
+        own.load(folder.writeDialect("none.xml", dialectWithInvalid("uint16_t[2]", "[9]"))).isOk());
+    const FrameMessage message(own, frameOf(own, 1, fromHex("09000901")));
+    const FrameMessage absent(own, frameOf(own, 1, fromHex("09000900")));
+    const FieldInfo *field = findField(own, "N1", "f");
+    QCOMPARE(field->getNumberOfValues(message.get()), 2u);
+    QCOMPARE(field->getNumberOfValues(absent.get()), 0u);
+    quint32 offset = 0;
+    quint32 length = 0;
+    QVERIFY(field->getByteRange(absent.get(), 1, &offset, &length));
+    QCOMPARE(offset, 12u);
+    QCOMPARE(length, 1u); // a zero at the end is not sent
+    QVERIFY(!field->getByteRange(absent.get(), 2, &offset, &length));
 }
 
 void tst_MavlinkFields::memory_isBytesAndLittleMore()
