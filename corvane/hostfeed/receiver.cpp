@@ -13,6 +13,9 @@ namespace corvane {
 
 namespace {
 
+// More, which the system would give in time, is so much more of the past for one who reads slowly.
+constexpr int sendBufferBytes = 32'768;
+
 bool isSocketDescriptor(int descriptor)
 {
     struct stat status
@@ -29,6 +32,8 @@ Receiver::Receiver(int descriptor, QObject *parent)
     , isSocket(isSocketDescriptor(descriptor))
     , notifier(descriptor, QSocketNotifier::Write)
 {
+    if (isSocket)
+        ::setsockopt(descriptor, SOL_SOCKET, SO_SNDBUF, &sendBufferBytes, sizeof sendBufferBytes);
     notifier.setEnabled(false);
     connect(&notifier, &QSocketNotifier::activated, this, &Receiver::writePending);
 }

@@ -11,7 +11,7 @@ namespace corvane {
 /**
  * Someone who reads the stream, at the other end of a pipe, a socket or a file. It never waits for
  * the receiver, and keeps at most one round for it: rounds that come while the one before is not
- * yet written are dropped as a whole.
+ * yet written are dropped as a whole. Of a socket the system keeps some 32 KiB beside that.
  */
 class Receiver : public QObject
 {

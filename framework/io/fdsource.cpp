@@ -16,6 +16,7 @@ constexpr int growthIntervalMs = 100;
 
 } // namespace
 
+// NOLINTNEXTLINE(modernize-pass-by-value): a shared text costs nothing to copy
 FdSource::FdSource(int descriptor, const QString &name, QObject *parent)
     : ByteSource(parent)
     , name(name)

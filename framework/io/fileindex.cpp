@@ -22,7 +22,7 @@ namespace corvane {
 
 namespace {
 
-constexpr qsizetype chunkBytes = 256 * 1024;
+constexpr qsizetype chunkBytes = qsizetype{256} * 1024;
 constexpr auto growthInterval = std::chrono::milliseconds(500);
 constexpr qint64 progressIntervalMs = 50;
 

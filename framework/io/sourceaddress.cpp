@@ -101,7 +101,7 @@ SourceAddressResult Reader::readOther(const QString &name)
     }
     const QLatin1String slashes(scheme->slashes);
     if (!rest.startsWith(slashes))
-        return fail(tr("\"//\" is missing after \"%1:\"").arg(name));
+        return fail(tr(R"("//" is missing after "%1:")").arg(name));
     rest.remove(0, slashes.size());
     address.kind = scheme->kind;
     if (address.kind == Kind::Serial)

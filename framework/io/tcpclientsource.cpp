@@ -13,7 +13,7 @@ namespace corvane {
 
 namespace {
 
-constexpr qint64 readBufferBytes = 64 * 1024;
+constexpr qint64 readBufferBytes = qint64{64} * 1024;
 
 } // namespace
 

@@ -15,7 +15,7 @@ namespace {
 
 using End = Decompression::End;
 
-constexpr qsizetype pieceBytes = 256 * 1024;
+constexpr qsizetype pieceBytes = qsizetype{256} * 1024;
 
 /** One step of a decompressor. */
 struct Progress
@@ -29,6 +29,7 @@ struct Progress
 class ZstdStream
 {
 public:
+    // NOLINTNEXTLINE(readability-non-const-parameter): zstd writes there
     Progress advance(QByteArrayView input, char *output, size_t outputSize)
     {
         ZSTD_inBuffer in{input.data(), static_cast<size_t>(input.size()), 0};
@@ -142,7 +143,7 @@ Decompression decompress(const QString &method, QByteArrayView bytes, quint64 ma
     if (!isKnown)
         return {QByteArray(), End::UnknownMethod};
     if (bytes.isEmpty())
-        return Decompression();
+        return {};
     if (method == QLatin1String("zstd"))
         return decompressWith(ZstdStream(), bytes, maximumSize);
     if (method == QLatin1String("lz4"))

@@ -52,7 +52,7 @@ QString findMistake(const McapChunk &chunk, const Decompression &result)
         break;
     }
     if (chunk.isCut)
-        return QString();
+        return {};
     if (result.end == Decompression::End::Cut
         || static_cast<quint64>(result.bytes.size()) != chunk.uncompressedSize)
         return QCoreApplication::translate("corvane::McapReader",
@@ -61,7 +61,7 @@ QString findMistake(const McapChunk &chunk, const Decompression &result)
     if (chunk.uncompressedCrc != 0 && chunk.uncompressedCrc != getCrc32(result.bytes))
         return QCoreApplication::translate("corvane::McapReader",
                                            "The checksum of a chunk is wrong.");
-    return QString();
+    return {};
 }
 
 } // namespace

@@ -88,7 +88,7 @@ public:
     McapReader &operator=(const McapReader &) = delete;
 
     /** Makes known what the file defines elsewhere; the listener is told. */
-    void define(const McapDefinitions &definitions);
+    void define(const McapDefinitions &more);
 
     void append(QByteArrayView bytes);
     /** No more bytes will come; step() tells of the end when it gets there. */

@@ -25,7 +25,7 @@ public:
     {
         valid = valid && size <= static_cast<quint64>(rest.size());
         if (!valid)
-            return QByteArrayView();
+            return {};
         const QByteArrayView taken = rest.first(static_cast<qsizetype>(size));
         rest = rest.sliced(taken.size());
         return taken;
