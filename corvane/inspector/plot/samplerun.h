@@ -91,8 +91,8 @@ private:
 
     Samples samples;
     size_t samplesBefore = 0; ///< The most there were when some were taken away.
-    std::vector<Block, PageAllocator<Block>>
-        blocks; ///< Of each blockSize samples; the last may be of fewer.
+    /** Of each blockSize samples; the last may be of fewer. */
+    std::vector<Block, PageAllocator<Block>> blocks;
 };
 
 } // namespace corvane

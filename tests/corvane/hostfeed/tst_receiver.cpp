@@ -76,6 +76,7 @@ private Q_SLOTS:
     void offer();
     void offer_toASlowOne_dropsWholeRounds_data();
     void offer_toASlowOne_dropsWholeRounds();
+    void socket_keepsLittleOfThePast();
     void offer_toAFile();
     void close_isTold_data();
     void close_isTold();
@@ -138,6 +139,16 @@ void TestReceiver::offer_toASlowOne_dropsWholeRounds()
     QCOMPARE(envelopes.back().feed().rounds(), static_cast<quint64>(number));
     for (const host::Envelope &envelope : envelopes)
         QVERIFY(envelope.has_feed() || envelope.has_kernel());
+}
+
+void TestReceiver::socket_keepsLittleOfThePast()
+{
+    const Ends ends(true);
+    const Receiver receiver(ends.writeEnd);
+    int bytes = 0;
+    socklen_t size = sizeof bytes;
+    QCOMPARE(::getsockopt(ends.writeEnd, SOL_SOCKET, SO_SNDBUF, &bytes, &size), 0);
+    QVERIFY(bytes <= 2 * 32'768); // of which the system takes half for itself
 }
 
 void TestReceiver::offer_toAFile()

@@ -1,8 +1,11 @@
 #include "samplestore.h"
 #include "testcase.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <map>
 #include <random>
 
@@ -23,6 +26,7 @@ private Q_SLOTS:
     void unshowableValues_areGaps();
     void full_staysWithinItsBounds();
     void growing_movesNothing();
+    void runs_lieInPagesOfTheirOwn();
     void full_isThinnedLittleByLittle();
     void lateOnesInAFullRun_areKeptInOrder();
     void full_ofGaps_staysWithinItsBounds();
@@ -214,6 +218,24 @@ void tst_samplestore::growing_movesNothing()
     }
     QVERIFY(store.getBytes() >= store.size() * sizeof(Sample));
     QVERIFY(store.getBytes() < capacity * 17 * 9 / 8); // memory is taken in eighths
+}
+
+void tst_samplestore::runs_lieInPagesOfTheirOwn()
+{
+    const auto pageSize = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+    SampleStore store;
+    for (int i = 0; i < 20'000; ++i)
+        store.append(i, i);
+    int runs = 0;
+    const Sample *last = nullptr;
+    for (const Sample &sample : store) {
+        if (last == nullptr || &sample != last + 1) {
+            QCOMPARE(reinterpret_cast<std::uintptr_t>(&sample) % pageSize, std::uintptr_t{0});
+            ++runs;
+        }
+        last = &sample;
+    }
+    QVERIFY(runs > 1);
 }
 
 void tst_samplestore::full_isThinnedLittleByLittle()
